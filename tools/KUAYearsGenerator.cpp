@@ -11,10 +11,12 @@
 #include <erfa.h>
 #include <erfam.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <numbers>
 #include <sstream>
@@ -40,16 +42,14 @@ constexpr double meanSolarMotion = 360.0 / 365.2422;
 
 /// An instant as a pair of Julian date parts whose sum is the date: the split keeps the
 /// microseconds that one double would lose.
-struct JulianDate
-{
+struct JulianDate {
     double day;
     double fraction;
 };
 
 /// Sum of coefficients[i] * x^i.
-template <std::size_t Size>
-double polynomial(const std::array<double, Size>& coefficients, double x)
-{
+template<std::size_t Size>
+double polynomial(const std::array<double, Size>& coefficients, double x) {
     double sum = 0.0;
     for (auto coefficient = coefficients.rbegin(); coefficient != coefficients.rend(); ++coefficient) {
         sum = sum * x + *coefficient;
@@ -59,8 +59,7 @@ double polynomial(const std::array<double, Size>& coefficients, double x)
 
 /// TT - UT in seconds at the start of February of a year, by the polynomial expressions that
 /// F. Espenak and J. Meeus give for the Five Millennium Canon of Solar Eclipses (NASA/TP-2006-214141).
-double deltaT(int westernYear)
-{
+double deltaT(int westernYear) {
     const double year = westernYear + (2.0 - 0.5) / 12.0;
     if (year < 1860.0) {
         return polynomial(std::array{13.72, -0.332447, 0.0068612, 0.0041116, -0.00037436, 0.0000121272,
@@ -84,8 +83,8 @@ double deltaT(int westernYear)
         return polynomial(std::array{45.45, 1.067, -1.0 / 260.0, -1.0 / 718.0}, year - 1975.0);
     }
     if (year < 2005.0) {
-        return polynomial(
-            std::array{63.86, 0.3345, -0.060374, 0.0017275, 0.000651814, 0.00002373599}, year - 2000.0);
+        return polynomial(std::array{63.86, 0.3345, -0.060374, 0.0017275, 0.000651814, 0.00002373599},
+                          year - 2000.0);
     }
     if (year < 2050.0) {
         return polynomial(std::array{62.92, 0.32217, 0.005589}, year - 2000.0);
@@ -97,56 +96,47 @@ double deltaT(int westernYear)
 
 /// Apparent geocentric longitude of the Sun in degrees, referred to the true equinox and ecliptic
 /// of date. Terrestrial Time serves as the ephemeris' own time scale: they differ by milliseconds.
-double apparentSolarLongitude(const JulianDate& terrestrialTime)
-{
-    std::array<std::array<double, 3>, 2> heliocentric{};
-    std::array<std::array<double, 3>, 2> barycentric{};
-    const auto pair = [](std::array<std::array<double, 3>, 2>& vectors) {
-        return reinterpret_cast<double(*)[3]>(vectors.data());
-    };
-    // The status only warns of dates outside 1900 to 2100, where the error stays below 0.03".
-    static_cast<void>(
-        eraEpv00(terrestrialTime.day, terrestrialTime.fraction, pair(heliocentric), pair(barycentric)));
+double apparentSolarLongitude(const JulianDate& terrestrialTime) {
+    double heliocentric[2][3] = {};
+    double barycentric[2][3] = {};
+    // The status only warns of dates outside 1900 to 2100, where the error stays far below a second
+    // of time.
+    static_cast<void>(eraEpv00(terrestrialTime.day, terrestrialTime.fraction, heliocentric, barycentric));
 
     // Where the Sun was when the light left it, seen from where the Earth is now.
-    const double distance = eraPm(heliocentric[0].data());
+    const double distance = eraPm(heliocentric[0]);
     const double lightDays = distance * ERFA_AULT / secondsPerDay;
-    std::array<double, 3> direction{};
-    for (std::size_t axis = 0; axis < direction.size(); ++axis) {
+    double direction[3] = {};
+    double velocity[3] = {};
+    for (int axis = 0; axis < 3; ++axis) {
         const double sunVelocity = barycentric[1][axis] - heliocentric[1][axis];
         direction[axis] = -heliocentric[0][axis] - sunVelocity * lightDays;
-    }
-    double length = 0.0;
-    std::array<double, 3> natural{};
-    eraPn(direction.data(), &length, natural.data());
-
-    // Aberration by the Earth's velocity in units of the speed of light.
-    std::array<double, 3> velocity{};
-    for (std::size_t axis = 0; axis < velocity.size(); ++axis) {
+        // The Earth's velocity in units of the speed of light, for the aberration.
         velocity[axis] = barycentric[1][axis] * ERFA_AULT / secondsPerDay;
     }
-    const double lorentz = std::sqrt(1.0 - eraPdp(velocity.data(), velocity.data()));
-    std::array<double, 3> proper{};
-    eraAb(natural.data(), velocity.data(), distance, lorentz, proper.data());
+    double length = 0.0;
+    double natural[3] = {};
+    eraPn(direction, &length, natural);
+    const double lorentz = std::sqrt(1.0 - eraPdp(velocity, velocity));
+    double proper[3] = {};
+    eraAb(natural, velocity, distance, lorentz, proper);
 
     // Precession and nutation to the true equator, then the true obliquity to the ecliptic.
-    std::array<std::array<double, 3>, 3> toTrueEquator{};
-    auto* matrix = reinterpret_cast<double(*)[3]>(toTrueEquator.data());
-    eraPnm06a(terrestrialTime.day, terrestrialTime.fraction, matrix);
+    double toTrueEquator[3][3] = {};
+    eraPnm06a(terrestrialTime.day, terrestrialTime.fraction, toTrueEquator);
     double nutationInLongitude = 0.0;
     double nutationInObliquity = 0.0;
     eraNut06a(terrestrialTime.day, terrestrialTime.fraction, &nutationInLongitude, &nutationInObliquity);
     const double obliquity = eraObl06(terrestrialTime.day, terrestrialTime.fraction) + nutationInObliquity;
-    std::array<double, 3> equatorial{};
-    eraRxp(matrix, proper.data(), equatorial.data());
+    double equatorial[3] = {};
+    eraRxp(toTrueEquator, proper, equatorial);
     const double northward = equatorial[1] * std::cos(obliquity) + equatorial[2] * std::sin(obliquity);
     return eraAnp(std::atan2(northward, equatorial[0])) * degreesPerRadian;
 }
 
-/// Days from midnight at the start of 1 January 4713 BC's Julian day count, in China Standard Time,
-/// to Li Chun of a Western year: whole part in day, rest in fraction, day starting at midnight.
-JulianDate lunarYearStart(int westernYear)
-{
+/// Li Chun of a Western year in China Standard Time: the Julian date of the midnight before it and
+/// the part of the day that had passed.
+JulianDate lunarYearStart(int westernYear) {
     double modifiedJulianZero = 0.0;
     double modifiedJulianDay = 0.0;
     eraCal2jd(westernYear, 2, 4, &modifiedJulianZero, &modifiedJulianDay);
@@ -162,46 +152,46 @@ JulianDate lunarYearStart(int westernYear)
     return {terrestrialTime.day + std::floor(chinaTime), chinaTime - std::floor(chinaTime)};
 }
 
-struct CivilDate
-{
+struct CivilDate {
     int year;
     int month;
     int day;
 };
 
-CivilDate civilDate(const JulianDate& instant)
-{
+CivilDate civilDate(const JulianDate& instant) {
     CivilDate date{};
     double fraction = 0.0;
     eraJd2cal(instant.day, 0.0, &date.year, &date.month, &date.day, &fraction);
     return date;
 }
 
+std::string isoText(const CivilDate& date) {
+    std::ostringstream text;
+    text << std::setfill('0') << std::setw(4) << date.year << '-' << std::setw(2) << date.month << '-'
+         << std::setw(2) << date.day;
+    return text.str();
+}
+
 /// Remainder that is never negative, so that the cycles run on before their year of reference.
-int cycle(int value, int length)
-{
+int cycle(int value, int length) {
     return ((value % length) + length) % length;
 }
 
 /// In 1995 a man's number is 5 and a woman's 1; his falls and hers rises by one each year.
-int numberMale(int year)
-{
+int numberMale(int year) {
     return cycle(5 - 1 - (year - 1995), 9) + 1;
 }
 
-int numberFemale(int year)
-{
+int numberFemale(int year) {
     return cycle(1 - 1 + (year - 1995), 9) + 1;
 }
 
 /// The signs are numbered from Rat, 1, to Boar, 12; 1995 is a year of the Boar.
-int animal(int year)
-{
+int animal(int year) {
     return cycle(year - 1996, 12) + 1;
 }
 
-std::string rowset()
-{
+std::string rowset() {
     std::ostringstream out;
     out << "<xml xmlns:s=\"uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882\""
            " xmlns:dt=\"uuid:C2F41010-65B3-11d1-A29F-00AA00C14882\""
@@ -227,12 +217,9 @@ std::string rowset()
            "\t<rs:data>\n";
     for (int year = firstYear; year <= lastYear; ++year) {
         const CivilDate date = civilDate(lunarYearStart(year));
-        std::array<char, sizeof "0000-00-00T00:00:00"> startDate{};
-        std::snprintf(startDate.data(), startDate.size(), "%04d-%02d-%02dT00:00:00", date.year % 10000,
-                      date.month % 100, date.day % 100);
-        out << "\t\t<z:row YEARID=\"" << year << "\" STARTDATE=\"" << startDate.data()
-            << "\" KUANUMBERMALE=\"" << numberMale(year) << "\" KUANUMBERFEMALE=\"" << numberFemale(year)
-            << "\" ANIMALID=\"" << animal(year) << "\" />\n";
+        out << "\t\t<z:row YEARID=\"" << year << "\" STARTDATE=\"" << isoText(date)
+            << "T00:00:00\" KUANUMBERMALE=\"" << numberMale(year) << "\" KUANUMBERFEMALE=\""
+            << numberFemale(year) << "\" ANIMALID=\"" << animal(year) << "\" />\n";
     }
     out << "\t</rs:data>\n"
            "</xml>\n";
@@ -240,23 +227,20 @@ std::string rowset()
 }
 
 /// One line a year: the instant in China Standard Time and how far from midnight it lies.
-void printInstants()
-{
+void printInstants() {
     for (int year = firstYear; year <= lastYear; ++year) {
         const JulianDate start = lunarYearStart(year);
         const CivilDate date = civilDate(start);
         const double seconds = start.fraction * secondsPerDay;
         const double minutesToMidnight = std::min(seconds, secondsPerDay - seconds) / 60.0;
         const int whole = static_cast<int>(seconds);
-        std::printf("%04d-%02d-%02d %02d:%02d:%02d  delta T %7.1f s  midnight %6.1f min\n", date.year,
-                    date.month, date.day, whole / 3600, whole / 60 % 60, whole % 60, deltaT(year),
-                    minutesToMidnight);
+        std::printf("%s %02d:%02d:%02d  delta T %7.1f s  midnight %6.1f min\n", isoText(date).c_str(),
+                    whole / 3600, whole / 60 % 60, whole % 60, deltaT(year), minutesToMidnight);
     }
 }
 
 /// True when the file holds exactly what this program prints. Names the first line that differs.
-bool check(const char* fileName)
-{
+bool check(const char* fileName) {
     std::ifstream file(fileName, std::ios::binary);
     if (!file) {
         std::cerr << "Cannot read " << fileName << '\n';
@@ -292,8 +276,7 @@ bool check(const char* fileName)
 
 } // namespace
 
-int main(int argumentCount, char* arguments[])
-{
+int main(int argumentCount, char* arguments[]) {
     const std::string_view verb = argumentCount > 1 ? arguments[1] : "";
     if (verb == "--check" && argumentCount == 3) {
         return check(arguments[2]) ? 0 : 1;
