@@ -1,0 +1,11 @@
+#pragma once
+
+class QString;
+struct PageDocument;
+
+/// Writes a document as one self-contained HTML file. Throws a Failure when the file cannot be written; what
+/// stood there before is kept then.
+void writeHtml(const PageDocument& document, const QString& path);
+
+/// Writes a document as a PDF file with the pages as they are printed. Throws a Failure as `writeHtml` does.
+void writePdf(const PageDocument& document, const QString& path);
