@@ -1,0 +1,37 @@
+#include "app/Startup.h"
+#include "core/Global.h"
+#include "ui/frmView.h"
+#include "ui/platform/DialogPrompts.h"
+#include "ui/platform/QSettingsStore.h"
+#include "ui/platform/SystemBrowser.h"
+#include "ui/platform/SystemClock.h"
+#include "ui/platform/SystemPrinter.h"
+
+#include <QApplication>
+#include <QIcon>
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Talivane"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/talivane/pictures/talivane.svg")));
+
+    DialogPrompts prompts;
+    QSettingsStore settings;
+    SystemClock clock;
+    SystemPrinter printer;
+    SystemBrowser browser;
+    frmView mainWindow;
+
+    Services services;
+    services.prompts = &prompts;
+    services.settings = &settings;
+    services.clock = &clock;
+    services.mainWindow = &mainWindow;
+    services.printer = &printer;
+    services.browser = &browser;
+    services.applicationPath = QApplication::applicationDirPath();
+    Global::use(services);
+
+    Global::Main();
+    return mainWindow.isVisible() ? QApplication::exec() : EXIT_FAILURE;
+}

@@ -1,0 +1,87 @@
+#include "ui/platform/DialogPrompts.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::Icon iconOf(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Critical:
+        return QMessageBox::Critical;
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::Information:
+        break;
+    }
+    return QMessageBox::Information;
+}
+
+/// The boxes' texts separate lines by CR LF, widgets by LF alone.
+QString withPlainLineBreaks(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+} // namespace
+
+MessageAnswer DialogPrompts::messageBox(const QString& title, const QString& text, MessageIcon icon,
+                                        MessageButtons buttons) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(withPlainLineBreaks(text));
+    box.setIcon(iconOf(icon));
+    if (buttons == MessageButtons::YesNo) {
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::No);
+        box.setEscapeButton(QMessageBox::No);
+        return box.exec() == QMessageBox::Yes ? MessageAnswer::Yes : MessageAnswer::No;
+    }
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+    return MessageAnswer::Ok;
+}
+
+QString DialogPrompts::inputBox(const QString& title, const QString& prompt, const QString& initial) {
+    constexpr int widthForAPath = 560;
+    QInputDialog box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("inputBox"));
+    box.setWindowTitle(title);
+    box.setInputMode(QInputDialog::TextInput);
+    box.setLabelText(withPlainLineBreaks(prompt));
+    box.setTextValue(initial);
+    for (QLabel* label : box.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
+    box.resize(widthForAPath, box.sizeHint().height());
+    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+}
+
+PointerShape DialogPrompts::pointer() const {
+    const QCursor* cursor = QGuiApplication::overrideCursor();
+    if (cursor == nullptr) {
+        return PointerShape::Default;
+    }
+    return cursor->shape() == Qt::WaitCursor ? PointerShape::Hourglass : PointerShape::Arrow;
+}
+
+void DialogPrompts::setPointer(PointerShape shape) {
+    while (QGuiApplication::overrideCursor() != nullptr) {
+        QGuiApplication::restoreOverrideCursor();
+    }
+    switch (shape) {
+    case PointerShape::Default:
+        break;
+    case PointerShape::Arrow:
+        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+        break;
+    case PointerShape::Hourglass:
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        break;
+    }
+}

@@ -1,0 +1,5 @@
+#include "ui/platform/SystemClock.h"
+
+QDate SystemClock::today() const {
+    return QDate::currentDate();
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "core/Clock.h"
+
+/// The machine's own calendar.
+class SystemClock final : public Clock {
+public:
+    [[nodiscard]] QDate today() const override;
+};

@@ -1,0 +1,116 @@
+#include "ui/platform/SystemPrinter.h"
+
+#include "core/Failure.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+constexpr double twipsPerInch = 1440;
+
+Failure printerError() {
+    return {482, QStringLiteral("Printer error")};
+}
+
+/// The pages to put on paper, counted from 0, in the order of printing.
+std::vector<qint32> pageSequence(const QPrinter& device, qint32 pageCount) {
+    std::vector<qint32> pages;
+    const bool ranged = device.printRange() == QPrinter::PageRange;
+    for (qint32 page = 0; page < pageCount; ++page) {
+        const int number = page + 1;
+        const bool inRanges = !device.pageRanges().isEmpty()
+                                  ? device.pageRanges().contains(number)
+                                  : number >= std::max(device.fromPage(), 1) &&
+                                        (device.toPage() == 0 || number <= device.toPage());
+        if (!ranged || inRanges) {
+            pages.push_back(page);
+        }
+    }
+    if (device.pageOrder() == QPrinter::LastPageFirst) {
+        std::reverse(pages.begin(), pages.end());
+    }
+    // A device that makes copies by itself gets each page once.
+    const int copies = device.supportsMultipleCopies() ? 1 : std::max(device.copyCount(), 1);
+    std::vector<qint32> sequence;
+    if (device.collateCopies()) {
+        for (int copy = 0; copy < copies; ++copy) {
+            sequence.insert(sequence.end(), pages.begin(), pages.end());
+        }
+    } else {
+        for (const qint32 page : pages) {
+            sequence.insert(sequence.end(), static_cast<std::size_t>(copies), page);
+        }
+    }
+    return sequence;
+}
+
+/// Puts the painter into the page's twips, the page as large as the paper allows and in its middle.
+void fitPage(QPainter& painter, const QPrinter& device, QSizeF page) {
+    const QRectF paper = device.paperRect(QPrinter::DevicePixel);
+    const double onePointPerTwip = device.resolution() / twipsPerInch;
+    double scale = std::min(paper.width() / page.width(), paper.height() / page.height());
+    // Paper of the page's own size keeps sizes exact, whatever the paper's pixels round to.
+    constexpr double sameSize = 0.005;
+    if (std::abs(scale / onePointPerTwip - 1) < sameSize) {
+        scale = onePointPerTwip;
+    }
+    painter.translate((paper.width() - page.width() * scale) / 2,
+                      (paper.height() - page.height() * scale) / 2);
+    painter.scale(scale, scale);
+}
+
+} // namespace
+
+SystemPrinter::SystemPrinter() = default;
+SystemPrinter::~SystemPrinter() = default;
+
+QPrinter& SystemPrinter::device() {
+    if (device_ == nullptr) {
+        device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    }
+    return *device_;
+}
+
+bool SystemPrinter::choose() {
+    QPrintDialog dialog(&device(), QApplication::activeWindow());
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                      QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+void SystemPrinter::print(const PrintableDocument& document) {
+    if (document.pageCount < 1 || document.pageSize.isEmpty()) {
+        return;
+    }
+    QPrinter& printer = device();
+    printer.setFullPage(true);
+    const std::vector<qint32> pages = pageSequence(printer, document.pageCount);
+    if (pages.empty()) {
+        return;
+    }
+    QPainter painter;
+    if (!painter.begin(&printer)) {
+        throw printerError();
+    }
+    bool first = true;
+    for (const qint32 page : pages) {
+        if (!first && !printer.newPage()) {
+            printer.abort();
+            throw printerError();
+        }
+        first = false;
+        painter.save();
+        fitPage(painter, printer, document.pageSize);
+        document.paint(painter, page);
+        painter.restore();
+    }
+    if (!painter.end() || printer.printerState() == QPrinter::Error) {
+        throw printerError();
+    }
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QColor>
+
+class QPalette;
+
+/// Colours that belong together on the screen.
+namespace ColorContrast {
+
+/// The contrast of two colours, 1 to 21, as the Web Content Accessibility Guidelines 2.1 define it.
+[[nodiscard]] double ratio(const QColor& one, const QColor& other);
+
+/// Ink or white, whichever stands out more on the ground; at least 4.5 to 1 on any ground.
+[[nodiscard]] QColor textOn(const QColor& ground);
+
+/// Whether the desktop's palette is a dark one.
+[[nodiscard]] bool isDark(const QPalette& palette);
+
+/// The ground of bands that have no colour of their own: a warm grey of paper.
+[[nodiscard]] QColor paperGrey(const QPalette& palette);
+
+/// A stored colour number, red in the lowest byte.
+[[nodiscard]] QColor fromStored(qint32 value);
+
+} // namespace ColorContrast

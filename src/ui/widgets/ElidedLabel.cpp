@@ -1,0 +1,65 @@
+#include "ui/widgets/ElidedLabel.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+ElidedLabel::ElidedLabel(QWidget* parent)
+    : QFrame(parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void ElidedLabel::setText(const QString& text) {
+    if (text == text_) {
+        return;
+    }
+    text_ = text;
+    setAccessibleDescription(text);
+    updateGeometry();
+    update();
+}
+
+void ElidedLabel::setTextMargin(int pixels) {
+    margin_ = pixels;
+    updateGeometry();
+    update();
+}
+
+QString ElidedLabel::shownText() const {
+    return fontMetrics().elidedText(text_, Qt::ElideRight, textRect().width());
+}
+
+QRect ElidedLabel::textRect() const {
+    return contentsRect().adjusted(margin_, 0, -margin_, 0);
+}
+
+QSize ElidedLabel::sizeHint() const {
+    const int frame = 2 * frameWidth();
+    return {fontMetrics().horizontalAdvance(text_) + 2 * margin_ + frame + 1, fontMetrics().height() + frame};
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+    return {2 * margin_ + fontMetrics().horizontalAdvance(QStringLiteral("\u2026")), sizeHint().height()};
+}
+
+QColor ElidedLabel::textColor() const {
+    return palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole());
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* event) {
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(textColor());
+    const Qt::Alignment start = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+    painter.drawText(textRect(), static_cast<int>(start | Qt::AlignVCenter) | Qt::TextSingleLine,
+                     shownText());
+}
+
+bool ElidedLabel::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shownText() != text_) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_.toHtmlEscaped(), this);
+        return true;
+    }
+    return QFrame::event(event);
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ui/widgets/ElidedLabel.h"
+
+#include <optional>
+
+/// The band at the top of a window or pane: its title on the accent colour of whom or what it is about, or
+/// on paper grey. The caption is one of the program's captions, in which "&&" stands for an ampersand.
+class TitleBand final : public ElidedLabel {
+    Q_OBJECT
+    Q_PROPERTY(QString caption READ caption WRITE setCaption)
+
+public:
+    explicit TitleBand(QWidget* parent = nullptr);
+
+    [[nodiscard]] QString caption() const { return caption_; }
+    void setCaption(const QString& caption);
+
+    /// The ground's colour; nothing for paper grey.
+    void setAccent(const std::optional<QColor>& color);
+
+    [[nodiscard]] QColor ground() const;
+    [[nodiscard]] QColor textColor() const override;
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setTitleFont();
+
+    QString caption_;
+    std::optional<QColor> accent_;
+};
+
+/// A text as part of a caption: every "&" doubled, so that it shows as one and marks no accelerator.
+[[nodiscard]] QString captionText(QString text);
