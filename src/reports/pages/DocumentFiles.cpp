@@ -50,21 +50,23 @@ void writeHtml(const PageDocument& document, const QString& path) {
 }
 
 void writePdf(const PageDocument& document, const QString& path) {
-    save(path, [&document](QSaveFile& file) {
-        QPdfWriter writer(&file);
-        writer.setResolution(twipsPerInch); // one unit of the file is one twip
-        writer.setPageSize(QPageSize(document.pageSize / twipsPerPoint, QPageSize::Point));
-        writer.setPageMargins({});
-        writer.setTitle(titleOf(document));
-        QPainter painter;
-        if (!painter.begin(&writer)) {
-            throw failure(ErrorNumber::DeviceError);
+    save(path, [&document](QSaveFile& file) { writePdf(document, file); });
+}
+
+void writePdf(const PageDocument& document, QIODevice& device) {
+    QPdfWriter writer(&device);
+    writer.setResolution(twipsPerInch); // one unit of the file is one twip
+    writer.setPageSize(QPageSize(document.pageSize / twipsPerPoint, QPageSize::Point));
+    writer.setPageMargins({});
+    writer.setTitle(titleOf(document));
+    QPainter painter;
+    if (!painter.begin(&writer)) {
+        throw failure(ErrorNumber::DeviceError);
+    }
+    for (std::size_t page = 0; page < document.pages.size(); ++page) {
+        if (page > 0) {
+            writer.newPage();
         }
-        for (std::size_t page = 0; page < document.pages.size(); ++page) {
-            if (page > 0) {
-                writer.newPage();
-            }
-            paintPage(painter, document, static_cast<qint32>(page), PaintTarget::Paper);
-        }
-    });
+        paintPage(painter, document, static_cast<qint32>(page), PaintTarget::Paper);
+    }
 }

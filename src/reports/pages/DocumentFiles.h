@@ -1,5 +1,6 @@
 #pragma once
 
+class QIODevice;
 class QString;
 struct PageDocument;
 
@@ -9,3 +10,6 @@ void writeHtml(const PageDocument& document, const QString& path);
 
 /// Writes a document as a PDF file with the pages as they are printed. Throws a Failure as `writeHtml` does.
 void writePdf(const PageDocument& document, const QString& path);
+
+/// The same onto an open device. Throws a Failure when the device refuses.
+void writePdf(const PageDocument& document, QIODevice& device);

@@ -13,7 +13,7 @@ constexpr double subHeadingPoints = 12;
 constexpr QLatin1String styleSheet(R"(:root { color-scheme: light; }
 body { margin: 0; background: #ffffff; color: #000000; text-align: left; line-height: 1.2;
  font-family: Arial, "Liberation Sans", Arimo, Helvetica, sans-serif; font-size: 11pt; }
-section { display: flow-root; max-width: 34em; margin: 0 auto; padding: 2em 1em; }
+section { display: flow-root; max-width: 41em; margin: 0 auto; padding: 2em 1em; }
 section + section { border-top: 1px solid #cccccc; }
 h1, h2, h3, p { margin: 0 0 6.5pt; font-weight: normal; white-space: pre-wrap; overflow-wrap: break-word;
  tab-size: 36pt; }
