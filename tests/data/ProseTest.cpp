@@ -1,6 +1,7 @@
 #include "DirectionTables.h"
 #include "RowsetFile.h"
 
+#include <QRegularExpression>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,7 +9,6 @@
 #include <cctype>
 #include <iterator>
 #include <map>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -200,7 +200,10 @@ std::size_t wordCount(const std::string& text) {
 }
 
 bool matches(const std::string& text, const char* pattern) {
-    return std::regex_search(text, std::regex(pattern, std::regex::ECMAScript | std::regex::icase));
+    const QRegularExpression expression(QString::fromLatin1(pattern),
+                                        QRegularExpression::CaseInsensitiveOption);
+    EXPECT_TRUE(expression.isValid()) << pattern;
+    return expression.match(QString::fromStdString(text)).hasMatch();
 }
 
 TEST(ProseTest, sentences_haveNoMechanicalSlip) {
