@@ -1,0 +1,208 @@
+#include "locations/cLocation.h"
+#include "locations/cRoom.h"
+#include "profiles/cProfile.h"
+#include "support/RecordedReport.h"
+#include "support/TestWorld.h"
+
+#include <QJsonObject>
+#include <QProcess>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// What a run of the program leaves.
+struct Outcome {
+    int exitCode = -1;
+    QByteArray output;
+    QByteArray complaint;
+
+    [[nodiscard]] Lines lines() const {
+        Lines all;
+        for (qsizetype start = 0; start < output.size();) {
+            const qsizetype end = output.indexOf('\n', start);
+            EXPECT_GE(end, 0) << "the last line has no end";
+            all.push_back(output.mid(start, end - start).toStdString());
+            start = end < 0 ? output.size() : end + 1;
+        }
+        return all;
+    }
+};
+
+Outcome runWith(const QStringList& arguments) {
+    QProcess process;
+    process.start(QStringLiteral(TALIVANE_TRANSCRIPT), arguments);
+    Outcome run;
+    constexpr int milliseconds = 120000;
+    EXPECT_TRUE(process.waitForFinished(milliseconds)) << qPrintable(process.errorString());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    run.exitCode = process.exitCode();
+    run.output = process.readAllStandardOutput();
+    run.complaint = process.readAllStandardError();
+    return run;
+}
+
+class Transcript : public testing::Test {
+protected:
+    TestWorld world{TestWorld::Records::Sample};
+
+    [[nodiscard]] Outcome run(const QStringList& reportAndArguments) const {
+        return runWith(QStringList{world.folder()} + reportAndArguments);
+    }
+
+    /// The arguments of every call of one operation.
+    [[nodiscard]] static QList<QJsonArray> callsOf(const Outcome& run, const QString& op) {
+        QList<QJsonArray> found;
+        for (const std::string& line : run.lines()) {
+            const QJsonObject call = QJsonDocument::fromJson(QByteArray::fromStdString(line)).object();
+            if (call.value(QStringLiteral("op")).toString() == op) {
+                found.append(call.value(QStringLiteral("args")).toArray());
+            }
+        }
+        return found;
+    }
+
+    /// The lines that the same builder gives in this process.
+    template<class Builder>
+    [[nodiscard]] static Lines linesOf(Builder&& build) {
+        RecordedReport report;
+        Global::CurrentProfile = std::make_unique<cProfile>();
+        Global::CurrentLocation = std::make_unique<cLocation>();
+        EXPECT_TRUE(Global::CurrentProfile->GetProfile(1));
+        Global::CurrentLocation->LoadLocations();
+        Global::CurrentLocation->LoadRooms();
+        EXPECT_TRUE(Global::CurrentLocation->GetLocation(1));
+        build(report.vp);
+        Global::CurrentLocation.reset();
+        Global::CurrentProfile.reset();
+        Lines lines;
+        for (const SurfaceCall& call : report.calls()) {
+            lines.push_back(jsonLine(call).toStdString());
+        }
+        return lines;
+    }
+};
+
+} // namespace
+
+TEST_F(Transcript, rooms_everyLineIsAnObjectOfOpAndArgs) {
+    const Outcome transcript = run({QStringLiteral("rooms"), QStringLiteral("1"), QStringLiteral("1")});
+    EXPECT_EQ(transcript.exitCode, 0) << transcript.complaint.constData();
+    ASSERT_GT(transcript.lines().size(), 1000U);
+    for (const std::string& line : transcript.lines()) {
+        QJsonParseError error;
+        const QJsonObject call = QJsonDocument::fromJson(QByteArray::fromStdString(line), &error).object();
+        ASSERT_EQ(error.error, QJsonParseError::NoError) << line;
+        EXPECT_EQ(call.keys(), (QStringList{QStringLiteral("args"), QStringLiteral("op")}));
+        EXPECT_TRUE(line.starts_with("{\"op\":\"")) << line;
+        EXPECT_TRUE(call.value(QStringLiteral("args")).isArray());
+    }
+}
+
+TEST_F(Transcript, rooms_areTheCallsOfTheBuilder) {
+    const Outcome transcript = run({QStringLiteral("rooms"), QStringLiteral("1"), QStringLiteral("1")});
+    EXPECT_EQ(transcript.lines(),
+              linesOf([](ReportSurface& vp) { Global::CurrentLocation->AnalyzeRooms(vp); }));
+    EXPECT_EQ(transcript.lines().back(), R"({"op":"EndDoc","args":[]})");
+    EXPECT_TRUE(callsOf(transcript, QStringLiteral("MessageBox")).isEmpty());
+}
+
+TEST_F(Transcript, rooms_ofAFloor_areThatFloorsAlone) {
+    const Outcome transcript =
+        run({QStringLiteral("rooms"), QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("2")});
+    EXPECT_EQ(transcript.exitCode, 0);
+    EXPECT_EQ(transcript.lines(),
+              linesOf([](ReportSurface& vp) { Global::CurrentLocation->AnalyzeRooms(vp, 2); }));
+}
+
+TEST_F(Transcript, rooms_ofAFloorWithoutRooms_areNothing) {
+    const Outcome transcript =
+        run({QStringLiteral("rooms"), QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("99")});
+    EXPECT_EQ(transcript.exitCode, 0);
+    EXPECT_TRUE(transcript.output.isEmpty());
+}
+
+TEST_F(Transcript, room_isTheCallsOfTheBuilder) {
+    const Outcome transcript = run({QStringLiteral("room"), QStringLiteral("1"), QStringLiteral("8")});
+    EXPECT_EQ(transcript.exitCode, 0) << transcript.complaint.constData();
+    EXPECT_EQ(transcript.lines(), linesOf([](ReportSurface& vp) {
+                  cRoom room;
+                  room.LoadRooms();
+                  EXPECT_TRUE(room.GetRoom(8));
+                  room.AnalyzeRoom(vp);
+              }));
+    EXPECT_EQ(callsOf(transcript, QStringLiteral("BackColor")).size(), 1);
+}
+
+TEST_F(Transcript, boxes_standInTheirPlaceWithTheClassicIconNumber) {
+    world.remove(QStringLiteral("Colors.xml"));
+    const Outcome transcript = run({QStringLiteral("room"), QStringLiteral("1"), QStringLiteral("8")});
+    EXPECT_EQ(transcript.exitCode, 0);
+    const QList<QJsonArray> boxes = callsOf(transcript, QStringLiteral("MessageBox"));
+    ASSERT_GE(boxes.size(), 9);
+    const QJsonArray report = {
+        QStringLiteral("cXMLHandler.Find"),
+        QStringLiteral("cXMLHandler.Find\r\n91-Object variable or With block variable not set"), 16};
+    EXPECT_EQ(boxes.last(), report);
+    const Lines lines = transcript.lines();
+    const auto box = std::ranges::find(lines, R"({"op":"BackColor","args":[0]})");
+    ASSERT_NE(box, lines.end());
+    EXPECT_TRUE((box - 1)->starts_with(R"({"op":"MessageBox")")) << *(box - 1);
+}
+
+TEST_F(Transcript, unknownRecords_areToldAndEndInOne) {
+    const QList<QStringList> unknown = {
+        {QStringLiteral("rooms"), QStringLiteral("99"), QStringLiteral("1")},
+        {QStringLiteral("rooms"), QStringLiteral("1"), QStringLiteral("99")},
+        {QStringLiteral("room"), QStringLiteral("99"), QStringLiteral("1")},
+        {QStringLiteral("room"), QStringLiteral("1"), QStringLiteral("99")},
+    };
+    const QList<QByteArray> complaints = {"There is no profile 99.\n", "There is no location 99.\n",
+                                          "There is no profile 99.\n", "There is no room 99.\n"};
+    for (qsizetype i = 0; i < unknown.size(); ++i) {
+        const Outcome refused = run(unknown.at(i));
+        EXPECT_EQ(refused.exitCode, 1) << qPrintable(unknown.at(i).join(u' '));
+        EXPECT_TRUE(refused.complaint.endsWith(complaints.at(i))) << refused.complaint.constData();
+        EXPECT_TRUE(refused.output.isEmpty());
+    }
+}
+
+TEST_F(Transcript, badArguments_areToldWithTheUsageAndEndInTwo) {
+    const QList<QStringList> bad = {
+        {QStringLiteral("rooms")},
+        {QStringLiteral("rooms"), QStringLiteral("1")},
+        {QStringLiteral("rooms"), QStringLiteral("one"), QStringLiteral("1")},
+        {QStringLiteral("rooms"), QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("up")},
+        {QStringLiteral("room"), QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("1")},
+        {QStringLiteral("unknown"), QStringLiteral("1")},
+        {},
+    };
+    for (const QStringList& arguments : bad) {
+        const Outcome refused = run(arguments);
+        EXPECT_EQ(refused.exitCode, 2) << qPrintable(arguments.join(u' '));
+        EXPECT_TRUE(refused.complaint.contains("usage: talivane_transcript DATA_DIR REPORT"))
+            << refused.complaint.constData();
+        EXPECT_TRUE(refused.complaint.contains("rooms PROFILEID LOCATIONID [FLOORID]"));
+        EXPECT_TRUE(refused.complaint.contains("room PROFILEID ROOMID"));
+        EXPECT_TRUE(refused.output.isEmpty());
+    }
+}
+
+TEST_F(Transcript, unknownFolder_isToldAndEndsInTwo) {
+    const Outcome refused = runWith({world.file(QStringLiteral("nowhere")), QStringLiteral("room"),
+                                     QStringLiteral("1"), QStringLiteral("1")});
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_TRUE(refused.complaint.contains("There is no folder")) << refused.complaint.constData();
+}
+
+TEST_F(Transcript, run_leavesTheRecordsAsTheyStood) {
+    const QByteArray before = world.read(QStringLiteral("Rooms.xml"));
+    EXPECT_EQ(run({QStringLiteral("rooms"), QStringLiteral("2"), QStringLiteral("1")}).exitCode, 0);
+    EXPECT_EQ(world.read(QStringLiteral("Rooms.xml")), before);
+}
