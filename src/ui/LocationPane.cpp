@@ -37,7 +37,8 @@ LocationPane::LocationPane(ViewFrame& frame, QWidget* parent)
     setObjectName(QStringLiteral("vsMainLocation"));
     setAccessibleName(tr("Location"));
     auto* column = new QVBoxLayout(this);
-    vsTopLocation = PaneParts::addBand(*this, *column, QStringLiteral("vsTopLocation"));
+    vsTopLocation = PaneParts::addBand(*this, *column, QStringLiteral("vsTopLocation"),
+                                       QStringLiteral(":/talivane/pictures/locations.svg"));
     // The list is at work already; it gets its place on the pane together with the home's other fields.
     cboLocation->hide();
     connect(cboLocation, &QComboBox::currentIndexChanged, this, &LocationPane::cboLocation_Click);

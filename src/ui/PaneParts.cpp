@@ -9,15 +9,44 @@
 #include "ui/widgets/TitleBand.h"
 
 #include <QComboBox>
+#include <QIcon>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
-TitleBand* PaneParts::addBand(QWidget& pane, QVBoxLayout& column, const QString& name) {
+namespace {
+
+/// A picture in the middle of its room, drawn faintly, as sharp as the screen can show it.
+class FaintPicture final : public QWidget {
+public:
+    FaintPicture(const QString& picture, QWidget* parent)
+        : QWidget(parent)
+        , picture_(picture) {}
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        constexpr int side = 160;
+        constexpr double strength = 0.35;
+        QRect place(0, 0, side, side);
+        place.moveCenter(rect().center());
+        QPainter painter(this);
+        painter.setOpacity(strength);
+        picture_.paint(&painter, place);
+    }
+
+private:
+    QIcon picture_;
+};
+
+} // namespace
+
+TitleBand* PaneParts::addBand(QWidget& pane, QVBoxLayout& column, const QString& name,
+                              const QString& picture) {
     auto* band = new TitleBand(&pane);
     band->setObjectName(name);
     column.setContentsMargins(0, 0, 0, 0);
     column.addWidget(band);
-    column.addStretch(1);
+    column.addWidget(new FaintPicture(picture, &pane), 1);
     return band;
 }
 

@@ -14,8 +14,8 @@ class cXMLHandler;
 /// What the two panes are made of alike.
 namespace PaneParts {
 
-/// The title band at the pane's top.
-TitleBand* addBand(QWidget& pane, QVBoxLayout& column, const QString& name);
+/// The title band at the pane's top, over the pane's picture as long as nothing else stands there.
+TitleBand* addBand(QWidget& pane, QVBoxLayout& column, const QString& name, const QString& picture);
 
 /// The list of records. A text can be edited in it; nothing is added to it by typing.
 QComboBox* makeList(QWidget& pane, const QString& name, const QString& accessibleName,

@@ -45,7 +45,8 @@ ProfilePane::ProfilePane(ViewFrame& frame, QWidget* parent)
     setObjectName(QStringLiteral("vsMainProfile"));
     setAccessibleName(tr("Profile"));
     auto* column = new QVBoxLayout(this);
-    vsTopProfile = PaneParts::addBand(*this, *column, QStringLiteral("vsTopProfile"));
+    vsTopProfile = PaneParts::addBand(*this, *column, QStringLiteral("vsTopProfile"),
+                                      QStringLiteral(":/talivane/pictures/profiles.svg"));
     // The list is at work already; it gets its place on the pane together with the person's other fields.
     cboProfileName->hide();
     connect(cboProfileName, &QComboBox::currentIndexChanged, this, &ProfilePane::cboProfileName_Click);

@@ -5,7 +5,38 @@
 #include "core/Global.h"
 #include "ui/widgets/ElidedLabel.h"
 
+#include <QPainter>
+#include <QRegularExpression>
 #include <QTime>
+
+namespace {
+
+/// A hairline between two panels, visible on light and dark desktops.
+class Separator final : public QWidget {
+public:
+    explicit Separator(QWidget* parent)
+        : QWidget(parent) {
+        setFixedWidth(1);
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        constexpr float faint = 0.3F;
+        QColor line = palette().color(QPalette::WindowText);
+        line.setAlphaF(faint);
+        QPainter(this).fillRect(rect(), line);
+    }
+};
+
+/// The regional form of a time of day without its seconds, which a clock that ticks by the minute cannot
+/// show.
+QString timeText(const QLocale& locale, QTime time) {
+    static const QRegularExpression seconds(QStringLiteral("[:.]ss?"));
+    return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(seconds));
+}
+
+} // namespace
 
 StatusPanels::StatusPanels(QWidget* parent)
     : QStatusBar(parent) {
@@ -26,9 +57,11 @@ ElidedLabel* StatusPanels::addPanel(const QString& key, const QString& accessibl
     auto* panel = new ElidedLabel(this);
     panel->setObjectName(key);
     panel->setAccessibleName(accessibleName);
-    panel->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
     if (stretch == 0) {
         panel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
+    if (findChildren<ElidedLabel*>().size() > 1) {
+        addWidget(new Separator(this));
     }
     addWidget(panel, stretch);
     return panel;
@@ -50,7 +83,7 @@ void StatusPanels::showNow() {
     const QTime now = QTime::currentTime();
     passOver([&] {
         setPanel(QStringLiteral("Date"), Conversion::shortDate(Global::service(&Services::clock).today()));
-        setPanel(QStringLiteral("Time"), Global::services().locale.toString(now, QLocale::ShortFormat));
+        setPanel(QStringLiteral("Time"), timeText(Global::services().locale, now));
     });
     untilNextMinute_.start(minute - now.msecsSinceStartOfDay() % minute);
 }
