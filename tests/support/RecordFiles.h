@@ -3,11 +3,12 @@
 #include <QByteArray>
 #include <QByteArrayList>
 
-/// A record file with these records and no fields named in its schema.
+/// A record file with these records, a line each, and no fields named in its schema.
 inline QByteArray recordFile(const QByteArrayList& rows) {
     return R"(<xml xmlns:s="uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882" xmlns:rs="urn:schemas-microsoft-com:rowset")"
-           R"( xmlns:z="#RowsetSchema"><s:Schema id="RowsetSchema"/><rs:data>)" +
-           rows.join() + "</rs:data></xml>";
+           R"( xmlns:z="#RowsetSchema"><s:Schema id="RowsetSchema"/><rs:data>)"
+           "\n" +
+           rows.join('\n') + "\n</rs:data></xml>";
 }
 
 /// The records of a file's content, each as the text of its line.
