@@ -17,29 +17,35 @@ namespace {
 constexpr int twipsPerInch = 1440;
 constexpr double twipsPerPoint = 20;
 
-/// What kept a file from being opened, as the classic failure that tells the user most.
-Failure openFailure(const QString& path) {
+/// Throws what keeps a file from being written, as the classic failure that tells the user most.
+void requireWritable(const QString& path) {
     const QFileInfo info(path);
-    if (info.isDir()) {
-        return failure(ErrorNumber::PathFileAccess);
+    if (info.exists() && !info.isFile()) { // a folder, or a device that a renamed file would replace
+        throw failure(ErrorNumber::PathFileAccess);
     }
     if (!info.dir().exists()) {
-        return failure(ErrorNumber::PathNotFound);
+        throw failure(ErrorNumber::PathNotFound);
     }
-    return failure(ErrorNumber::PermissionDenied);
 }
 
-/// Writes a file through a temporary one beside it, so that a failure leaves the old file whole.
+/// Writes a file through a temporary one beside it, so that a failure leaves the old file whole. Only where
+/// the folder takes no new files is the old one written over.
 template<class Writer>
 void save(const QString& path, Writer&& writer) {
+    requireWritable(path);
     QSaveFile file(path);
+    file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly)) {
-        throw openFailure(path);
+        throw failure(ErrorNumber::PermissionDenied);
     }
     std::forward<Writer>(writer)(file);
+    // Asked before the commit, which says nothing of a file written over directly.
+    if (!file.flush() || file.error() != QFileDevice::NoError) {
+        file.cancelWriting();
+        throw failure(ErrorNumber::DiskFull);
+    }
     if (!file.commit()) {
-        throw failure(file.error() == QFileDevice::RenameError ? ErrorNumber::PathFileAccess
-                                                               : ErrorNumber::DiskFull);
+        throw failure(ErrorNumber::PathFileAccess);
     }
 }
 

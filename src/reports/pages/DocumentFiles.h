@@ -5,7 +5,7 @@ class QString;
 struct PageDocument;
 
 /// Writes a document as one self-contained HTML file. Throws a Failure when the file cannot be written; what
-/// stood there before is kept then.
+/// stood there before is then kept wherever its folder can hold both.
 void writeHtml(const PageDocument& document, const QString& path);
 
 /// Writes a document as a PDF file with the pages as they are printed. Throws a Failure as `writeHtml` does.
