@@ -47,8 +47,8 @@ QByteArray roomsFile(int rooms) {
                     .arg(i % 40 * 12)
                     .arg(i % 37 * 12)
                     .arg(i % 9 + 1)
-                    .arg(QString::fromLatin1(flag(0)), QString::fromLatin1(flag(1)),
-                         QString::fromLatin1(flag(2)))
+                    .arg(QString::fromLatin1(i % 10 == 0 ? "True" : "False"), // a main entrance is rare
+                         QString::fromLatin1(flag(1)), QString::fromLatin1(flag(2)))
                     .toUtf8();
     }
     rows += "\t</rs:data>";
