@@ -1,8 +1,7 @@
 #include "Ratio.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
+#include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -20,6 +19,9 @@ std::vector<Ratio>& ratios() {
 /// Prints as the console does and keeps every repetition's time for the ratios.
 class CollectingReporter final : public benchmark::ConsoleReporter {
 public:
+    CollectingReporter()
+        : ConsoleReporter(OO_Tabular) {}
+
     void ReportRuns(const std::vector<Run>& reports) override {
         ConsoleReporter::ReportRuns(reports);
         for (const Run& run : reports) {

@@ -37,19 +37,20 @@ QByteArray roomsFile(int rooms) {
     QByteArray rows = "<rs:data>\n";
     for (int i = 1; i <= rooms; ++i) {
         const auto flag = [i](int bit) { return ((i >> bit) & 1) != 0 ? "True" : "False"; };
-        rows += QStringLiteral("\t\t<z:row ROOMID=\"%1\" LOCATIONID=\"1\" FLOORID=\"1\" ROOMTYPEID=\"%2\" "
-                               "FLOORTYPEID=\"%3\" DESCRIPTION=\"Room %1\" TOP=\"%4\" LEFT=\"%5\" LENGTH=\"126\" "
-                               "WIDTH=\"120.5\" RELATIVEDIRECTION=\"%6\" HASENTRANCE=\"%7\" "
-                               "HASEXPOSEDBEAMS=\"%8\" HASLOWCEILING=\"%9\" />\n")
-                    .arg(i)
-                    .arg(i % 13 + 1)
-                    .arg(i % 4 + 1)
-                    .arg(i % 40 * 12)
-                    .arg(i % 37 * 12)
-                    .arg(i % 9 + 1)
-                    .arg(QString::fromLatin1(i % 10 == 0 ? "True" : "False"), // a main entrance is rare
-                         QString::fromLatin1(flag(1)), QString::fromLatin1(flag(2)))
-                    .toUtf8();
+        rows +=
+            QStringLiteral("\t\t<z:row ROOMID=\"%1\" LOCATIONID=\"1\" FLOORID=\"1\" ROOMTYPEID=\"%2\" "
+                           "FLOORTYPEID=\"%3\" DESCRIPTION=\"Room %1\" TOP=\"%4\" LEFT=\"%5\" LENGTH=\"126\" "
+                           "WIDTH=\"120.5\" RELATIVEDIRECTION=\"%6\" HASENTRANCE=\"%7\" "
+                           "HASEXPOSEDBEAMS=\"%8\" HASLOWCEILING=\"%9\" />\n")
+                .arg(i)
+                .arg(i % 13 + 1)
+                .arg(i % 4 + 1)
+                .arg(i % 40 * 12)
+                .arg(i % 37 * 12)
+                .arg(i % 9 + 1)
+                .arg(QString::fromLatin1(i % 10 == 0 ? "True" : "False"), // a main entrance is rare
+                     QString::fromLatin1(flag(1)), QString::fromLatin1(flag(2)))
+                .toUtf8();
     }
     rows += "\t</rs:data>";
     const qsizetype at = file.indexOf("<rs:data");
@@ -57,8 +58,8 @@ QByteArray roomsFile(int rooms) {
     return file.left(at) + rows + '\n' + file.mid(end);
 }
 
-MessageAnswer BenchWorld::NoPrompts::messageBox(const QString& title, const QString& text, MessageIcon /*icon*/,
-                                                MessageButtons /*buttons*/) {
+MessageAnswer BenchWorld::NoPrompts::messageBox(const QString& title, const QString& text,
+                                                MessageIcon /*icon*/, MessageButtons /*buttons*/) {
     stop(title + u'\n' + text);
 }
 

@@ -1,6 +1,5 @@
 #include "BenchWorld.h"
 #include "Ratio.h"
-
 #include "locations/cLocation.h"
 #include "profiles/cProfile.h"
 #include "reports/pages/PageSurface.h"
