@@ -8,7 +8,9 @@
 
 #include <cmath>
 #include <limits>
+#include <locale>
 #include <optional>
+#include <sstream>
 
 namespace {
 
@@ -70,11 +72,10 @@ private:
     }
 
     bool readDigit() {
-        const int value = rest_.isEmpty() ? -1 : rest_.front().digitValue();
-        if (value < 0) {
+        if (rest_.isEmpty() || !rest_.front().isDigit()) {
             return false;
         }
-        plain_ += static_cast<char>('0' + value);
+        plain_ += static_cast<char>('0' + rest_.front().digitValue());
         rest_ = rest_.mid(1);
         return true;
     }
@@ -134,6 +135,20 @@ private:
     int digits_ = 0;
 };
 
+/// The value of a plain number; infinite beyond the range. One too small to be told from 0 is 0.
+double valueOf(const QByteArray& plain) {
+    bool inRange = false;
+    const double value = plain.toDouble(&inRange);
+    if (inRange) {
+        return value;
+    }
+    std::istringstream stream(plain.toStdString());
+    stream.imbue(std::locale::classic());
+    double extreme = 0;
+    stream >> extreme;
+    return stream.fail() ? std::numeric_limits<double>::infinity() : extreme;
+}
+
 /// A finite number's shortest plain form with at most `significant` digits, decimal separator included.
 QString plainNumber(double value, int significant) {
     if (!std::isfinite(value)) {
@@ -143,8 +158,8 @@ QString plainNumber(double value, int significant) {
     const qsizetype mark = scientific.indexOf('e');
     const int exponent = scientific.mid(mark + 1).toInt();
     const bool plain = exponent > -significant && exponent < significant;
-    QByteArray text = plain ? QByteArray::number(value, 'f', qMax(0, significant - 1 - exponent))
-                            : scientific.left(mark);
+    QByteArray text =
+        plain ? QByteArray::number(value, 'f', qMax(0, significant - 1 - exponent)) : scientific.left(mark);
     if (text.contains('.')) {
         while (text.endsWith('0')) {
             text.chop(1);
@@ -159,7 +174,8 @@ QString plainNumber(double value, int significant) {
     QString result = QString::fromLatin1(text);
     result.replace(u'.', Global::services().locale.decimalPoint());
     if (!plain) {
-        result += QStringLiteral("E%1%2").arg(exponent < 0 ? u'-' : u'+').arg(qAbs(exponent), 2, 10, QChar(u'0'));
+        result += exponent < 0 ? QStringLiteral("E-") : QStringLiteral("E+");
+        result += QString::number(qAbs(exponent)).rightJustified(2, u'0');
     }
     return result;
 }
@@ -168,7 +184,7 @@ QString plainNumber(double value, int significant) {
 
 bool Conversion::isNumeric(QStringView text) {
     const auto plain = NumberReader(text, Global::services().locale).read();
-    return plain && std::isfinite(plain->toDouble());
+    return plain && std::isfinite(valueOf(*plain));
 }
 
 double Conversion::toDouble(QStringView text) {
@@ -176,7 +192,7 @@ double Conversion::toDouble(QStringView text) {
     if (!plain) {
         throw failure(ErrorNumber::TypeMismatch);
     }
-    const double value = plain->toDouble();
+    const double value = valueOf(*plain);
     if (!std::isfinite(value)) {
         throw failure(ErrorNumber::Overflow);
     }
@@ -215,7 +231,8 @@ QString Conversion::generalNumber(float value) {
 
 QString Conversion::storedText(const QVariant& value) {
     switch (value.typeId()) {
-    case QMetaType::QDate:
+    case QMetaType::QDate: // not by way of a point in time: some days have no midnight in some time zones
+        return value.toDate().toString(QStringLiteral("yyyy-MM-dd'T00:00:00'"));
     case QMetaType::QDateTime:
         return value.toDateTime().toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss"));
     case QMetaType::Bool:

@@ -5,14 +5,15 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <optional>
 
 namespace {
 
-/// Private characters that stand for month 1 to 12 once a name was recognised.
-constexpr char16_t monthMarker = 0xE000;
+/// No spelling of a date is longer; what is longer need not be searched for months and weekdays.
+constexpr qsizetype longestDate = 100;
 
 struct MonthName {
     QString name;
@@ -29,6 +30,12 @@ std::optional<QDate> checkedDate(int year, int month, int day) {
     return date.isValid() && year >= 100 && year <= 9999 ? std::optional(date) : std::nullopt;
 }
 
+QString withoutClosingPoints(QString name) {
+    while (name.endsWith(u'.')) {
+        name.chop(1);
+    }
+    return name;
+}
 
 /// All spellings of the months in the user's language and in English, longest first, so that "thg 12" is not
 /// taken for "thg 1".
@@ -37,12 +44,11 @@ QList<MonthName> monthNames(const QLocale& locale) {
     for (const QLocale& each : {locale, QLocale::c()}) {
         for (int month = 1; month <= 12; ++month) {
             for (const QLocale::FormatType format : {QLocale::LongFormat, QLocale::ShortFormat}) {
-                for (QString name : {each.monthName(month, format), each.standaloneMonthName(month, format)}) {
-                    while (name.endsWith(u'.')) {
-                        name.chop(1);
-                    }
+                for (const QString& name : {withoutClosingPoints(each.monthName(month, format)),
+                                            withoutClosingPoints(each.standaloneMonthName(month, format))}) {
                     // A month that is only a number ("2", "2月") is read as the number that it is.
-                    if (std::any_of(name.cbegin(), name.cend(), [](QChar c) { return c.isLetter() && c != u'月'; })) {
+                    if (std::any_of(name.cbegin(), name.cend(),
+                                    [](QChar c) { return c.isLetter() && c != u'月'; })) {
                         names.append({name, month});
                     }
                 }
@@ -59,44 +65,61 @@ QStringList fillerWords(const QLocale& locale) {
     QStringList words;
     for (const QLocale& each : {locale, QLocale::c()}) {
         for (int day = 1; day <= 7; ++day) {
-            words << each.dayName(day, QLocale::LongFormat) << each.dayName(day, QLocale::ShortFormat);
+            words << withoutClosingPoints(each.dayName(day, QLocale::LongFormat))
+                  << withoutClosingPoints(each.dayName(day, QLocale::ShortFormat));
         }
     }
     words << QStringLiteral("de") << QStringLiteral("of");
+    words.removeAll(QString());
     std::stable_sort(words.begin(), words.end(),
                      [](const QString& a, const QString& b) { return a.size() > b.size(); });
     return words;
 }
 
-/// The words of one language; finding them takes far longer than reading a date, and they never change.
-struct DateWords {
+/// The order of year, month and day in a regional format, for example "dMy".
+QString orderOf(const QString& format) {
+    QString order;
+    bool quoted = false;
+    for (const QChar character : format) {
+        quoted = quoted != (character == u'\'');
+        if (!quoted && QStringView(u"yMd").contains(character) && !order.contains(character)) {
+            order += character;
+        }
+    }
+    return order;
+}
+
+/// The regional short form with a year of four digits.
+QString fullShortFormat(const QLocale& locale) {
+    static const QRegularExpression year(QStringLiteral("y+"));
+    return locale.dateFormat(QLocale::ShortFormat).replace(year, QStringLiteral("yyyy"));
+}
+
+/// How dates are written in a region. Finding it out takes far longer than reading a date.
+struct RegionalDates {
+    explicit RegionalDates(const QLocale& region)
+        : locale(region)
+        , months(monthNames(region))
+        , fillers(fillerWords(region))
+        , shortFormat(fullShortFormat(region))
+        , shortOrder(orderOf(shortFormat))
+        , longOrder(orderOf(region.dateFormat(QLocale::LongFormat))) {}
+
     QLocale locale;
     QList<MonthName> months;
     QStringList fillers;
+    QString shortFormat;
+    QString shortOrder;
+    QString longOrder;
 };
 
-const DateWords& wordsOf(const QLocale& locale) {
-    static DateWords words = {locale, monthNames(locale), fillerWords(locale)};
-    if (words.locale != locale) {
-        words = {locale, monthNames(locale), fillerWords(locale)};
+const RegionalDates& regionalDates() {
+    const QLocale& locale = Global::services().locale;
+    static RegionalDates dates(locale);
+    if (dates.locale != locale) {
+        dates = RegionalDates(locale);
     }
-    return words;
-}
-
-/// Replaces whole words of `text` that equal `word`, without regard to case.
-void replaceWord(QString& text, const QString& word, const QString& replacement) {
-    qsizetype at = 0;
-    while (!word.isEmpty() && (at = text.indexOf(word, at, Qt::CaseInsensitive)) >= 0) {
-        const qsizetype end = at + word.size();
-        const bool startsWord = at == 0 || !text.at(at - 1).isLetter();
-        const bool endsWord = end == text.size() || !text.at(end).isLetterOrNumber();
-        if (startsWord && endsWord) {
-            text.replace(at, word.size(), replacement);
-            at += replacement.size();
-        } else {
-            ++at;
-        }
-    }
+    return dates;
 }
 
 enum class Role { Free, Year, Month, Day };
@@ -106,6 +129,8 @@ struct DateToken {
     qsizetype digits = 0;
     Role role = Role::Free;
 };
+
+using DateTokens = QVarLengthArray<DateToken, 4>;
 
 Role roleOfSuffix(QChar suffix) {
     switch (suffix.unicode()) {
@@ -123,56 +148,101 @@ Role roleOfSuffix(QChar suffix) {
     }
 }
 
-/// The numbers and months of a text that holds nothing else but separators; empty when it does.
-QList<DateToken> tokensOf(QStringView text) {
-    static constexpr QStringView separators = u" \t.,/-";
-    QList<DateToken> tokens;
-    for (qsizetype i = 0; i < text.size();) {
-        const QChar character = text.at(i);
-        if (character.unicode() > monthMarker && character.unicode() <= monthMarker + 12) {
-            tokens.append({character.unicode() - monthMarker, 0, Role::Month});
-            ++i;
-        } else if (character.digitValue() >= 0) {
-            DateToken token;
-            for (; i < text.size() && text.at(i).digitValue() >= 0 && token.digits < 5; ++i, ++token.digits) {
-                token.value = token.value * 10 + text.at(i).digitValue();
-            }
-            if (i < text.size() && roleOfSuffix(text.at(i)) != Role::Free) {
-                token.role = roleOfSuffix(text.at(i));
-                ++i;
-            }
-            tokens.append(token);
-        } else if (separators.contains(character) || character.isSpace()) {
-            ++i;
-        } else {
-            return {};
-        }
-    }
-    return tokens;
-}
+/// Takes a text apart into the three parts of a date.
+class DateReader {
+public:
+    DateReader(QStringView text, const RegionalDates& region)
+        : rest_(text)
+        , region_(region) {}
 
-/// The order of year, month and day in a regional format, for example "dMy".
-QString orderOf(const QString& format) {
-    QString order;
-    bool quoted = false;
-    for (const QChar character : format) {
-        quoted = quoted != (character == u'\'');
-        if (!quoted && QStringView(u"yMd").contains(character) && !order.contains(character)) {
-            order += character;
+    /// The parts; nothing when there are not three of them or the text holds anything else.
+    std::optional<DateTokens> read() {
+        while (!rest_.isEmpty()) {
+            if (!skipSeparator() && !readNumber() && !readMonth() && !skipFiller()) {
+                return std::nullopt;
+            }
         }
+        return tokens_.size() == 3 ? std::optional(tokens_) : std::nullopt;
     }
-    return order;
-}
 
-std::optional<QDate> numericDate(const QList<DateToken>& tokens, const QLocale& locale) {
-    QString order = orderOf(locale.dateFormat(QLocale::ShortFormat));
+private:
+    bool skipSeparator() {
+        static constexpr QStringView separators = u".,/-";
+        const bool found = separators.contains(rest_.front()) || rest_.front().isSpace();
+        rest_ = rest_.mid(found ? 1 : 0);
+        return found;
+    }
+
+    bool readNumber() {
+        DateToken token;
+        while (token.digits < rest_.size() && rest_.at(token.digits).isDigit()) {
+            token.value = token.value * 10 + rest_.at(token.digits).digitValue();
+            if (++token.digits > 4) {
+                return false;
+            }
+        }
+        if (token.digits == 0) {
+            return false;
+        }
+        rest_ = rest_.mid(token.digits);
+        if (!rest_.isEmpty()) {
+            token.role = roleOfSuffix(rest_.front());
+            rest_ = rest_.mid(token.role == Role::Free ? 0 : 1);
+        }
+        tokens_.append(token);
+        for (const QStringView ordinal :
+             {QStringView(u"st"), QStringView(u"nd"), QStringView(u"rd"), QStringView(u"th")}) {
+            if (skipWord(ordinal)) {
+                break;
+            }
+        }
+        return true;
+    }
+
+    bool readMonth() {
+        for (const MonthName& each : region_.months) {
+            if (skipWord(each.name)) {
+                tokens_.append({each.month, 0, Role::Month});
+                return true;
+            }
+        }
+        return false;
+    }
+
+    bool skipFiller() {
+        return std::any_of(region_.fillers.cbegin(), region_.fillers.cend(),
+                           [this](const QString& word) { return skipWord(word); });
+    }
+
+    /// Takes `word` from the front where it ends there: "Mar" is not the front of "Marx", nor "thg 1" that of
+    /// "thg 12".
+    bool skipWord(QStringView word) {
+        if (!rest_.startsWith(word, Qt::CaseInsensitive)) {
+            return false;
+        }
+        if (word.size() < rest_.size()) {
+            const QChar next = rest_.at(word.size());
+            if (next.isLetter() || next.isMark() || (next.isDigit() && word.back().isDigit())) {
+                return false;
+            }
+        }
+        rest_ = rest_.mid(word.size());
+        return true;
+    }
+
+    QStringView rest_;
+    const RegionalDates& region_;
+    DateTokens tokens_;
+};
+
+std::optional<QDate> numericDate(const DateTokens& tokens, const RegionalDates& region) {
+    QStringView order = region.shortOrder;
     const bool yearFirst = tokens.first().digits > 2;
     if (yearFirst) {
-        order = QStringLiteral("yMd");
+        order = u"yMd";
     } else if (tokens.last().digits > 2 && order.startsWith(u'y')) {
         // Where the short form begins with the year, a text that ends in one follows the long form's order.
-        const QString spoken = orderOf(locale.dateFormat(QLocale::LongFormat));
-        order = spoken.indexOf(u'd') < spoken.indexOf(u'M') ? QStringLiteral("dMy") : QStringLiteral("Mdy");
+        order = region.longOrder.indexOf(u'd') < region.longOrder.indexOf(u'M') ? u"dMy" : u"Mdy";
     }
     const auto part = [&](QChar name) { return tokens.at(order.indexOf(name)); };
     if (part(u'M').digits > 2 || part(u'd').digits > 2) {
@@ -186,7 +256,7 @@ std::optional<QDate> numericDate(const QList<DateToken>& tokens, const QLocale& 
     return checkedDate(fullYear(part(u'y').value, part(u'y').digits), month, day);
 }
 
-std::optional<QDate> dateWithMonth(QList<DateToken> tokens) {
+std::optional<QDate> dateWithMonth(DateTokens tokens) {
     const auto month = std::find_if(tokens.begin(), tokens.end(),
                                     [](const DateToken& token) { return token.role == Role::Month; });
     const int monthValue = month->value;
@@ -195,38 +265,40 @@ std::optional<QDate> dateWithMonth(QList<DateToken> tokens) {
                            (tokens.first().digits > 2 || tokens.first().value > 31);
     const DateToken year = yearFirst ? tokens.first() : tokens.last();
     const DateToken day = yearFirst ? tokens.last() : tokens.first();
-    if (day.digits > 2 || day.role == Role::Month || year.role == Role::Month) {
+    if (day.digits > 2) {
         return std::nullopt;
     }
     return checkedDate(fullYear(year.value, year.digits), monthValue, day.value);
 }
 
-std::optional<QDate> parsedDate(QString text) {
-    const QLocale& locale = Global::services().locale;
-    static const QRegularExpression directionMarks(QStringLiteral("[\\x{200E}\\x{200F}\\x{061C}]"));
-    text = text.remove(directionMarks).trimmed();
+/// Cuts a time of day off the end of a date.
+QStringView withoutTime(QStringView text) {
+    if (!text.contains(u':')) {
+        return text;
+    }
     static const QRegularExpression time(
         QStringLiteral("(?:T|\\s+)([01]?\\d|2[0-3]):[0-5]\\d(?::[0-5]\\d(?:[.,]\\d+)?)?"
                        "(?:\\s*[AaPp]\\.?[Mm]\\.?)?(?:Z|[+-]\\d\\d:?\\d\\d)?$"));
-    text.remove(time);
-    const DateWords& words = wordsOf(locale);
-    for (const MonthName& name : words.months) {
-        replaceWord(text, name.name, QString(QChar(monthMarker + name.month)));
-    }
-    for (const QString& word : words.fillers) {
-        replaceWord(text, word, QString());
-    }
-    static const QRegularExpression ordinal(QStringLiteral("(?<=\\d)(?:st|nd|rd|th)\\b"),
-                                            QRegularExpression::CaseInsensitiveOption);
-    text.remove(ordinal);
+    const QRegularExpressionMatch match = time.match(text);
+    return match.hasMatch() ? text.left(match.capturedStart()) : text;
+}
 
-    const QList<DateToken> tokens = tokensOf(text);
-    if (tokens.size() != 3) {
+std::optional<QDate> parsedDate(QString text) {
+    if (text.size() > longestDate) {
         return std::nullopt;
     }
-    const auto months = std::count_if(tokens.cbegin(), tokens.cend(),
+    text.removeIf([](QChar c) { return c == QChar(0x200E) || c == QChar(0x200F) || c == QChar(0x061C); });
+    const RegionalDates& region = regionalDates();
+    const auto tokens = DateReader(withoutTime(QStringView(text).trimmed()), region).read();
+    if (!tokens) {
+        return std::nullopt;
+    }
+    const auto months = std::count_if(tokens->cbegin(), tokens->cend(),
                                       [](const DateToken& token) { return token.role == Role::Month; });
-    return months == 1 ? dateWithMonth(tokens) : numericDate(tokens, locale);
+    if (months > 1) {
+        return std::nullopt;
+    }
+    return months == 1 ? dateWithMonth(*tokens) : numericDate(*tokens, region);
 }
 
 std::optional<QDate> dateOf(const QVariant& value) {
@@ -256,11 +328,8 @@ QDate Conversion::toDate(const QVariant& value) {
 }
 
 QString Conversion::shortDate(QDate date) {
-    const QLocale& locale = Global::services().locale;
-    QString format = locale.dateFormat(QLocale::ShortFormat);
-    static const QRegularExpression year(QStringLiteral("y+"));
-    format.replace(year, QStringLiteral("yyyy"));
-    return locale.toString(date, format);
+    const RegionalDates& region = regionalDates();
+    return region.locale.toString(date, region.shortFormat);
 }
 
 QString Conversion::shortDate(const QVariant& value) {
@@ -270,10 +339,7 @@ QString Conversion::shortDate(const QVariant& value) {
 
 QString Conversion::mediumDate(QDate date) {
     const QLocale& locale = Global::services().locale;
-    QString month = locale.monthName(date.month(), QLocale::ShortFormat);
-    while (month.endsWith(u'.')) {
-        month.chop(1);
-    }
+    const QString month = withoutClosingPoints(locale.monthName(date.month(), QLocale::ShortFormat));
     const QString day = locale.toString(date, QStringLiteral("dd"));
     return day + u'-' + month + u'-' + locale.toString(date, QStringLiteral("yyyy"));
 }

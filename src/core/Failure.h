@@ -53,8 +53,7 @@ void reportCurrentException(QStringView label);
 /// anything fails in it, the failure is reported once under the label and the result is returned as it
 /// stands at that moment. Nothing is thrown to the caller.
 template<class Result, class Body>
-    requires std::is_invocable_v<Body, Result&>
-Result routine(QStringView label, Result result, Body&& body) {
+requires std::is_invocable_v<Body, Result&> Result routine(QStringView label, Result result, Body&& body) {
     try {
         std::forward<Body>(body)(result);
     } catch (...) {
@@ -65,7 +64,7 @@ Result routine(QStringView label, Result result, Body&& body) {
 
 /// The same for a routine that has no result.
 template<class Body>
-    requires std::is_invocable_v<Body>
+requires std::is_invocable_v<Body>
 void routine(QStringView label, Body&& body) {
     try {
         std::forward<Body>(body)();

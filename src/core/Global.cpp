@@ -47,7 +47,8 @@ void Global::HandleError(QStringView label, qint32 number, const QString& descri
     passOver([&] { kept = prompts->pointer(); });
     passOver([&] { prompts->setPointer(PointerShape::Default); });
     passOver([&] {
-        const QString text = label.toString() + QStringLiteral("\r\n") + QString::number(number) + u'-' + description;
+        const QString text =
+            label.toString() + QStringLiteral("\r\n") + QString::number(number) + u'-' + description;
         prompts->messageBox(label.toString(), text, MessageIcon::Critical, MessageButtons::Ok);
     });
     passOver([&] { prompts->setPointer(kept); });

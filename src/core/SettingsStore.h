@@ -28,7 +28,8 @@ public:
     virtual ~SettingsStore() = default;
 
     /// The value `name` of the key; the empty name stands for the key's unnamed value. Creates nothing.
-    [[nodiscard]] virtual std::optional<SettingValue> value(const QString& section, const QString& name) const = 0;
+    [[nodiscard]] virtual std::optional<SettingValue> value(const QString& section,
+                                                            const QString& name) const = 0;
     /// Writes a value and creates the key's whole path as needed.
     virtual bool setValue(const QString& section, const QString& name, const SettingValue& value) = 0;
     virtual bool removeValue(const QString& section, const QString& name) = 0;

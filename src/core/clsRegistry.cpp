@@ -9,11 +9,20 @@
 
 namespace {
 
-enum RegistryType : qint32 { None, Text, ExpandText, Binary, DoubleWord, BigEndianDoubleWord, Link, MultiText };
+enum RegistryType : qint32 {
+    None,
+    Text,
+    ExpandText,
+    Binary,
+    DoubleWord,
+    BigEndianDoubleWord,
+    Link,
+    MultiText
+};
 
-constexpr std::array<const char*, 8> typeNames = {"REG_NONE",  "REG_SZ",    "REG_EXPAND_SZ",
-                                                  "REG_BINARY", "REG_DWORD", "REG_DWORD_BIG_ENDIAN",
-                                                  "REG_LINK",  "REG_MULTI_SZ"};
+constexpr std::array<const char*, 8> typeNames = {"REG_NONE",   "REG_SZ",      "REG_EXPAND_SZ",
+                                                  "REG_BINARY", "REG_DWORD",   "REG_DWORD_BIG_ENDIAN",
+                                                  "REG_LINK",   "REG_MULTI_SZ"};
 
 /// The store, or nothing for a root key that this program has no part in.
 SettingsStore* storeOf(quint32 group) {
@@ -102,8 +111,8 @@ QString clsRegistry::GetSetting(quint32 GROUP, const QString& Section, const QSt
     });
 }
 
-bool clsRegistry::SaveSetting(quint32 GROUP, const QString& Section, const QString& Key, const QVariant& Setting,
-                              qint32 KeyType) {
+bool clsRegistry::SaveSetting(quint32 GROUP, const QString& Section, const QString& Key,
+                              const QVariant& Setting, qint32 KeyType) {
     return routine(u"clsRegistry.SaveSetting", false, [&](bool& result) {
         SettingsStore* store = storeOf(GROUP);
         if (store == nullptr) {
@@ -127,7 +136,8 @@ void clsRegistry::CopyTree(quint32 GROUP, const QString& sSource, const QString&
     });
 }
 
-void clsRegistry::DisplayTree(quint32 GROUP, const QString& Section, OutlineGrid& tbl, qint32 lOutlineLevel) const {
+void clsRegistry::DisplayTree(quint32 GROUP, const QString& Section, OutlineGrid& tbl,
+                              qint32 lOutlineLevel) const {
     routine(u"clsRegistry.DisplayTree", [&] {
         const auto addRow = [&](const QString& cells) {
             tbl.AddItem(cells);

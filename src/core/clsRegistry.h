@@ -42,7 +42,8 @@ public:
     [[nodiscard]] std::optional<QStringList> GetAllKeys(quint32 GROUP, const QString& Section) const;
 
     /// The values of `Section`, each with name, type and data; nothing when there are none.
-    [[nodiscard]] std::optional<QList<NamedSetting>> GetAllSettings(quint32 GROUP, const QString& Section) const;
+    [[nodiscard]] std::optional<QList<NamedSetting>> GetAllSettings(quint32 GROUP,
+                                                                    const QString& Section) const;
 
     /// The text of a value, or `Default` when it is not there. Creates no key.
     [[nodiscard]] QString GetSetting(quint32 GROUP, const QString& Section, const QString& Key,
