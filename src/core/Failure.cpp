@@ -12,6 +12,8 @@ QString descriptionOf(ErrorNumber number) {
         return QStringLiteral("Overflow");
     case ErrorNumber::OutOfMemory:
         return QStringLiteral("Out of memory");
+    case ErrorNumber::SubscriptOutOfRange:
+        return QStringLiteral("Subscript out of range");
     case ErrorNumber::DivisionByZero:
         return QStringLiteral("Division by zero");
     case ErrorNumber::TypeMismatch:

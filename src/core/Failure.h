@@ -19,6 +19,7 @@ enum class ErrorNumber : qint32 {
     InvalidProcedureCall = 5,
     Overflow = 6,
     OutOfMemory = 7,
+    SubscriptOutOfRange = 9,
     DivisionByZero = 11,
     TypeMismatch = 13,
     InternalError = 51,

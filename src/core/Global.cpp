@@ -79,20 +79,18 @@ QString Global::GetRegionalSetting(qint32 item) {
 }
 
 void Global::FindInData(ListControl& list, const QString& key, qint32 first, qint32 fallback) {
-    const qint32 count = list.ListCount();
-    if (count == 0) {
-        return;
-    }
-    for (qint32 i = first; i <= count; ++i) {
-        if (i == count) {
-            list.setListIndex(fallback);
+    passOver([&] {
+        const qint32 count = list.ListCount();
+        if (count == 0 || first > count) {
             return;
         }
-        if (QString::number(list.ItemData(i)).compare(key, Qt::CaseInsensitive) == 0) {
-            list.setListIndex(i);
-            return;
+        qint32 found = first;
+        while (found < count &&
+               QString::number(list.ItemData(found)).compare(key, Qt::CaseInsensitive) != 0) {
+            ++found;
         }
-    }
+        list.setListIndex(found < count ? found : fallback);
+    });
 }
 
 float Global::CompassToRadians(float degrees) {

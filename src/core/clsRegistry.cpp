@@ -126,11 +126,13 @@ bool clsRegistry::SaveSetting(quint32 GROUP, const QString& Section, const QStri
 
 void clsRegistry::CopyTree(quint32 GROUP, const QString& sSource, const QString& sDest) {
     routine(u"clsRegistry.CopyTree", [&] {
+        // Listed before anything is written: a copy into the source itself would never end.
+        const QStringList keys = GetAllKeys(GROUP, sSource).value_or(QStringList());
         for (const NamedSetting& setting : GetAllSettings(GROUP, sSource).value_or(QList<NamedSetting>())) {
             const QString name = setting.name.isEmpty() ? QStringLiteral("*") : setting.name;
             SaveSetting(GROUP, sDest, name, withoutClosingNul(setting.value.data), setting.value.type);
         }
-        for (const QString& key : GetAllKeys(GROUP, sSource).value_or(QStringList())) {
+        for (const QString& key : keys) {
             CopyTree(GROUP, sSource + u'\\' + key, sDest + u'\\' + key);
         }
     });
