@@ -8,7 +8,8 @@
 
 /// The eight personal directions of people, by their own direction and gender. A look-up goes by the id
 /// alone, so of the rows of the two genders it takes the earlier one.
-class cPersonalDirection {
+// The fields stand in the order of their reading, each name beside its id.
+class cPersonalDirection { // NOLINT(clang-analyzer-optin.performance.Padding)
 public:
     /// The store on `PersonalDirections.xml`. Callers also search and walk it directly.
     std::unique_ptr<cXMLHandler> oXMLPersonalDirections;
