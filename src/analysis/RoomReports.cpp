@@ -64,11 +64,10 @@ void analyzeResult(cXMLHandler& rooms, ReportSurface& vp) {
 } // namespace
 
 void cRoom::AnalyzeRoom(ReportSurface& vp) {
-    constexpr qint32 lightShade = 3;
     routine(u"cRoom.Analyze Room", [&] {
         modRooms::InitReport(vp);
         vp.StartDoc();
-        vp.BackColor(Global::GetDirectionColor(RelativeDirection, lightShade));
+        vp.BackColor(Global::GetDirectionColor(RelativeDirection, shades::light));
         modRooms::SetReportHeader(vp, DESCRIPTION, 0);
         const auto kind = std::ranges::find(roomKinds, ROOMTYPEID, &RoomKind::roomTypeId);
         if (kind != roomKinds.end()) {

@@ -11,6 +11,7 @@
 #include "analysis/sentences/HomeOffice.h"
 #include "analysis/sentences/Kitchen.h"
 #include "analysis/sentences/Shared.h"
+#include "catalogues/DirectionWheel.h"
 #include "catalogues/ElementRelations.h"
 #include "core/Failure.h"
 #include "core/Global.h"
@@ -252,34 +253,14 @@ constexpr std::array<ChartLabel, 4> chartLabels{{
     {u"W", 1750, -50},
 }};
 
-/// A sector of the wheel, from one angle counter-clockwise to the other, in degrees clockwise from the top of
-/// the page. South stands at the top and East on the left, as these charts are drawn; the cardinal sectors
-/// are 30 degrees wide, the four corners 60. The centre has none.
-struct ChartSector {
-    qint32 direction;
-    float from;
-    float to;
-};
-
-constexpr std::array<ChartSector, 8> chartSectors{{
-    {North, 195, 165},
-    {SouthWest, 75, 15},
-    {East, 285, 255},
-    {SouthEast, 345, 285},
-    {NorthWest, 165, 105},
-    {West, 105, 75},
-    {NorthEast, 255, 195},
-    {South, 15, 345},
-}};
-
 /// How a sector is filled: shade of its direction's colour and radius in twips.
 struct SectorLook {
     qint32 shade;
     double radius;
 };
 
-constexpr SectorLook ownSector{2, 1600};
-constexpr SectorLook otherSector{3, 1440};
+constexpr SectorLook ownSector{shades::normal, 1600};
+constexpr SectorLook otherSector{shades::light, 1440};
 
 } // namespace
 
@@ -291,11 +272,10 @@ void modRooms::DrawVPChart(ReportSurface& vp, double X, double Y, qint32 Directi
             vp.Write(label.letter.toString());
         }
         vp.BrushStyle(0);
-        for (const ChartSector& sector : chartSectors) {
-            const SectorLook& look = sector.direction == Direction ? ownSector : otherSector;
-            vp.BrushColor(Global::GetDirectionColor(sector.direction, look.shade));
-            vp.DrawCircle(X, Y, look.radius, static_cast<double>(Global::CompassToRadians(sector.from)),
-                          static_cast<double>(Global::CompassToRadians(sector.to)));
+        for (const DirectionSector& sector : directionSectors) {
+            const SectorLook& look = sector.directionId == Direction ? ownSector : otherSector;
+            vp.BrushColor(Global::GetDirectionColor(sector.directionId, look.shade));
+            drawSector(vp, X, Y, look.radius, sector.directionId);
         }
     });
 }

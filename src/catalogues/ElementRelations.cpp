@@ -26,11 +26,11 @@ constexpr DestroyingRelation DESTROYING_RELATIONS[] = {
 
 qint32 shadeOf(const cColor& color, qint32 shade) {
     switch (shade) {
-    case 1:
+    case shades::bright:
         return color.BRIGHTCOLORVALUE;
-    case 2:
+    case shades::normal:
         return color.COLORVALUE;
-    case 3:
+    case shades::light:
         return color.LIGHTCOLORVALUE;
     default:
         return 0;

@@ -2,6 +2,15 @@
 
 #include <QString>
 
+/// The shades in which every colour is kept.
+namespace shades {
+
+inline constexpr qint32 bright = 1;
+inline constexpr qint32 normal = 2;
+inline constexpr qint32 light = 3;
+
+} // namespace shades
+
 /// How directions, elements and colours relate. Each call reads the reference files that it needs anew.
 namespace Global {
 
@@ -10,7 +19,7 @@ namespace Global {
 /// phrase that tells; otherwise both are left untouched.
 bool IsCompatible(qint32 direction1, qint32 direction2, QString& elementName, QString& reason);
 
-/// A shade of a colour: 1 bright, 2 normal, 3 light. A direction id serves as the id of its colour. The
+/// A shade of a colour. A direction id serves as the id of its colour. The
 /// result has red in the lowest byte; it is 0, black, for an unknown colour or shade.
 qint32 GetDirectionColor(qint32 COLORID, qint32 shade);
 

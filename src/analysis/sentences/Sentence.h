@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogues/DirectionIds.h"
 #include "catalogues/cPersonalDirection.h"
 
 #include <QString>
@@ -12,15 +13,15 @@
 namespace sentences {
 
 // The direction ids by which sentences are keyed.
-inline constexpr qint32 North = 1;
-inline constexpr qint32 SouthWest = 2;
-inline constexpr qint32 East = 3;
-inline constexpr qint32 SouthEast = 4;
-inline constexpr qint32 Center = 5;
-inline constexpr qint32 NorthWest = 6;
-inline constexpr qint32 West = 7;
-inline constexpr qint32 NorthEast = 8;
-inline constexpr qint32 South = 9;
+using directionIds::Center;
+using directionIds::East;
+using directionIds::North;
+using directionIds::NorthEast;
+using directionIds::NorthWest;
+using directionIds::South;
+using directionIds::SouthEast;
+using directionIds::SouthWest;
+using directionIds::West;
 
 // The flooring ids by which sentences are keyed.
 inline constexpr qint32 Carpet = 1;
