@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class ReportSurface;
+
 /// The five elements, with their texts, their cycles and their colour.
 class cElement {
 public:
@@ -29,6 +31,14 @@ public:
 
     /// Loads the file.
     cElement();
+
+    /// Draws the compass of the directions about a centre in twips, South at the top; the directions of this
+    /// element stand out of its ring.
+    void DrawCompass(ReportSurface& vp, qint32 lX, qint32 lY) const;
+
+    /// Writes the report on this element into an open document: on the screen with a band in its colour,
+    /// for the printer (`ToPrint`) without.
+    void GenerateReport(ReportSurface& vp, bool ToPrint) const;
 
     /// Fills the fields from the first row with this id and reads the element's colour. False when either
     /// is missing: without the row nothing changes, without the colour all other fields are filled.

@@ -16,6 +16,8 @@
 
 #include <memory>
 
+class ReportSurface;
+
 /// A person: one record of `Profiles.xml` together with all that the person's KUA number selects from the
 /// reference tables. Each change of the stored record is on disk when its routine returns.
 class cProfile {
@@ -79,7 +81,21 @@ public:
     /// Reads the file anew. Always true: a file that is missing shows itself at the first look-up.
     bool LoadProfiles();
 
+    /// Writes the report on this person into an open document: on the screen with a band in the person's
+    /// colour on the first page, for the printer (`ToPrint`) without. The chart of directions has a page of
+    /// its own.
+    void GenerateReport(ReportSurface& vp, bool ToPrint) const;
+
+    /// Draws the compass of the directions and their elements about a centre in twips, South at the top; the
+    /// person's own direction stands out.
+    void DrawCompass(ReportSurface& vp, qint32 lX, qint32 lY) const;
+
+    /// Draws what each direction means to the person, the beneficial ones green, the problematic ones blue.
+    void DrawDirectionChart(ReportSurface& vp, qint32 lX, qint32 lY) const;
+
 private:
+    static void DrawDirectionName(ReportSurface& vp, qint32 lX, qint32 lY, qint32 lRadius,
+                                  const QString& label, qint32 id);
     void GetDetails();
     /// Writes all fields but the key to the record at the store's cursor.
     void writeFields(cXMLHandler& store) const;
