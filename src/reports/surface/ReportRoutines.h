@@ -10,6 +10,16 @@ namespace modRooms {
 /// Prepares a surface for a new document: margins of an inch, empty header and footer, base font.
 void InitReport(ReportSurface& vp);
 
+/// Prepares the surface of a pane that shows a compass or chart alone: no margins, letters of 20 points in
+/// bold, small enough for the figure to be seen whole.
+void prepareCompassPane(ReportSurface& vp);
+
+/// Prepares the surface of a pane that shows the report on a person or an element.
+void prepareReportPane(ReportSurface& vp);
+
+/// Prepares a surface that shows one large compass or chart: no margins, large bold letters.
+void InitCompass(ReportSurface& vp);
+
 /// Sets the base text and drawing state.
 void ResetReportFont(ReportSurface& vp);
 
