@@ -4,12 +4,15 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 #ifdef Q_OS_UNIX
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
 #endif
 
 #ifdef Q_OS_UNIX
@@ -26,7 +29,9 @@ Failure failureOf(int error) {
     case EROFS:
         return failure(ErrorNumber::PermissionDenied);
     case EISDIR:
+    case EEXIST: // a link to a file that is gone
     case ELOOP:
+    case ENXIO:
     case ETXTBSY:
         return failure(ErrorNumber::PathFileAccess);
     case ENOSPC:
@@ -59,7 +64,8 @@ class OpenFile {
 public:
     explicit OpenFile(const QByteArray& path)
         : path_(path) {
-        descriptor_ = retried([&] { return ::open(path.constData(), O_WRONLY | O_CLOEXEC); });
+        // Nobody waits for the other end of a pipe that stands where the file must go.
+        descriptor_ = retried([&] { return ::open(path.constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK); });
         if (descriptor_ == -1 && errno == ENOENT) {
             descriptor_ = retried(
                 [&] { return ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666); });
@@ -91,7 +97,8 @@ public:
         return status.st_size;
     }
 
-    /// Makes sure that the first `size` bytes can be written, without changing the file's length.
+    /// Makes sure that the first `size` bytes can be written, also where the file has holes, without changing
+    /// its length.
     void reserve([[maybe_unused]] off_t size) const {
         struct rlimit limit = {};
         if (::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
@@ -161,8 +168,8 @@ void writeOverFile(const QString& path, const QByteArray& content) {
     OpenFile file(QFile::encodeName(path));
     const off_t oldSize = file.size();
     const auto newSize = static_cast<off_t>(content.size());
+    file.reserve(std::max(newSize, oldSize));
     if (newSize > oldSize) {
-        file.reserve(newSize);
         file.write(content);
     } else {
         file.write(content.leftJustified(static_cast<qsizetype>(oldSize), ' '));
@@ -178,9 +185,10 @@ void writeOverFile(const QString& path, const QByteArray& content) {
 
 void writeOverFile(const QString& path, const QByteArray& content) {
     QFile file(path);
-    const bool whole = file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) &&
-                       file.write(content.leftJustified(file.size(), ' ')) == qMax(file.size(), content.size()) &&
-                       file.resize(content.size());
+    const bool whole =
+        file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) &&
+        file.write(content.leftJustified(file.size(), ' ')) == qMax(file.size(), content.size()) &&
+        file.resize(content.size());
     if (!whole) {
         switch (file.error()) {
         case QFileDevice::OpenError:

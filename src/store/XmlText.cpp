@@ -1,27 +1,35 @@
 #include "store/XmlText.h"
 
+#include <QByteArrayView>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringDecoder>
 
 #include <algorithm>
 #include <cstring>
+#include <new>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace {
 
 /// Everything that a file may hold besides white space between elements, so that nothing is lost on save.
+/// Text outside the root element is read too, only to be refused.
 constexpr unsigned int parseOptions = pugi::parse_default | pugi::parse_comments | pugi::parse_pi |
-                                      pugi::parse_declaration | pugi::parse_doctype;
+                                      pugi::parse_declaration | pugi::parse_doctype | pugi::parse_fragment;
 
 bool isContinuation(unsigned char byte) {
     return (byte & 0xC0U) == 0x80U;
 }
 
-/// The length of the UTF-8 character at `at`, or 0 when there is none (also for overlong forms, surrogates
-/// and numbers above 10FFFF).
+/// The length of the UTF-8 character at `at`, or 0 when there is none that a document may hold (also for
+/// overlong forms, surrogates, numbers above 10FFFF and control characters).
 qsizetype characterLength(const unsigned char* at, qsizetype left) {
     const unsigned char first = *at;
     if (first < 0x80U) {
-        return 1;
+        return first >= 0x20U || first == '\t' || first == '\n' || first == '\r' ? 1 : 0;
     }
     const qsizetype length = first >= 0xF0U ? 4 : first >= 0xE0U ? 3 : 2;
     if (first < 0xC2U || first > 0xF4U || length > left ||
@@ -29,8 +37,16 @@ qsizetype characterLength(const unsigned char* at, qsizetype left) {
         return 0;
     }
     const bool overlong = (first == 0xE0U && at[1] < 0xA0U) || (first == 0xF0U && at[1] < 0x90U);
-    const bool outside = (first == 0xEDU && at[1] > 0x9FU) || (first == 0xF4U && at[1] > 0x8FU);
+    const bool outside = (first == 0xEDU && at[1] > 0x9FU) || (first == 0xF4U && at[1] > 0x8FU) ||
+                         (first == 0xEFU && at[1] == 0xBFU && at[2] >= 0xBEU);
     return overlong || outside ? 0 : length;
+}
+
+/// Whether eight bytes at once are all printable ASCII.
+bool isPlain(quint64 block) {
+    constexpr quint64 highBits = 0x8080808080808080U;
+    constexpr quint64 blanks = 0x2020202020202020U;
+    return (block & highBits) == 0 && ((block - blanks) & highBits) == 0;
 }
 
 bool isUtf8(const QByteArray& bytes) {
@@ -41,7 +57,7 @@ bool isUtf8(const QByteArray& bytes) {
         quint64 block = 0;
         while (end - at >= 8) {
             std::memcpy(&block, at, sizeof block);
-            if ((block & 0x8080808080808080U) != 0) {
+            if (!isPlain(block)) {
                 break;
             }
             at += 8;
@@ -82,34 +98,102 @@ bool looksWide(const QByteArray& bytes) {
     return head.startsWith("\xFF\xFE") || head.startsWith("\xFE\xFF") || head.contains('\0');
 }
 
+std::optional<QByteArray> decoded(QStringDecoder decode, const QByteArray& bytes) {
+    const QString text = decode(bytes);
+    return decode.hasError() || !text.isValidUtf16() ? std::nullopt : std::optional(text.toUtf8());
+}
+
 /// The file's bytes as UTF-8; nothing when they are not well encoded.
-std::optional<QByteArray> asUtf8(QByteArray bytes) {
-    if (looksWide(bytes)) {
-        const auto encoding = QStringConverter::encodingForData(bytes, u'<');
-        if (!encoding) {
-            return std::nullopt;
-        }
-        QStringDecoder decode(*encoding);
-        const QString text = decode(bytes);
-        return decode.hasError() ? std::nullopt : std::optional(text.toUtf8());
-    }
+std::optional<QByteArray> asUtf8(const QByteArray& bytes) {
+    std::optional<QByteArray> utf8 = bytes;
     const QByteArray encoding = declaredEncoding(bytes);
-    if (!encoding.isEmpty() && encoding != "utf-8" && encoding != "us-ascii") {
-        QStringDecoder decode(encoding.constData());
-        if (!decode.isValid() || encoding.startsWith("utf-")) {
-            return std::nullopt; // a wide encoding would have shown in the first bytes
-        }
-        const QString text = decode(bytes);
-        return decode.hasError() ? std::nullopt : std::optional(text.toUtf8());
+    if (looksWide(bytes)) {
+        const auto wide = QStringConverter::encodingForData(bytes, u'<');
+        utf8 = wide ? decoded(QStringDecoder(*wide), bytes) : std::nullopt;
+    } else if (!encoding.isEmpty() && encoding != "utf-8" && encoding != "us-ascii") {
+        QStringDecoder decoder(encoding.constData());
+        // A wide encoding would have shown in the first bytes.
+        const bool usable = decoder.isValid() && !encoding.startsWith("utf-");
+        utf8 = usable ? decoded(std::move(decoder), bytes) : std::nullopt;
     }
-    return isUtf8(bytes) ? std::optional(bytes) : std::nullopt;
+    return utf8 && isUtf8(*utf8) ? utf8 : std::nullopt;
+}
+
+/// Whether a document holds one root element and no text beside it.
+bool hasOneRoot(const pugi::xml_document& document) {
+    int roots = 0;
+    for (const pugi::xml_node node : document.children()) {
+        roots += node.type() == pugi::node_element ? 1 : 0;
+        if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) {
+            return false;
+        }
+    }
+    return roots == 1;
+}
+
+/// Finds elements that carry an attribute twice. Records carry the same attributes in the same order, so that
+/// one comparison with the record before settles most of them.
+class AttributeNames {
+public:
+    bool areUnique(const pugi::xml_node& element) {
+        std::size_t same = 0;
+        std::size_t count = 0;
+        for (const pugi::xml_attribute& attribute : element.attributes()) {
+            if (same == count && same < known_.size() && std::strcmp(known_[same], attribute.name()) == 0) {
+                ++same;
+            }
+            ++count;
+        }
+        if (same == count) {
+            return true;
+        }
+        known_.clear();
+        for (const pugi::xml_attribute& attribute : element.attributes()) {
+            known_.push_back(attribute.name());
+        }
+        std::vector<std::string_view> sorted(known_.begin(), known_.end());
+        std::sort(sorted.begin(), sorted.end());
+        return std::adjacent_find(sorted.begin(), sorted.end()) == sorted.end();
+    }
+
+private:
+    std::vector<const char*> known_;
+};
+
+bool hasUniqueAttributes(const pugi::xml_document& document) {
+    AttributeNames names;
+    pugi::xml_node node = document.first_child();
+    while (node) {
+        if (!names.areUnique(node)) {
+            return false;
+        }
+        pugi::xml_node next = node.first_child();
+        while (node && !next) {
+            next = node.next_sibling();
+            node = node.parent();
+        }
+        node = next;
+    }
+    return true;
+}
+
+/// Parses in place, in a buffer that the document then owns.
+bool parse(pugi::xml_document& document, const QByteArray& utf8) {
+    const auto size = static_cast<std::size_t>(utf8.size()) + 1; // with the closing NUL
+    void* buffer = pugi::get_memory_allocation_function()(size);
+    if (buffer == nullptr) {
+        throw std::bad_alloc();
+    }
+    std::memcpy(buffer, utf8.constData(), size);
+    return document.load_buffer_inplace_own(buffer, size, parseOptions, pugi::encoding_utf8) &&
+           hasOneRoot(document) && hasUniqueAttributes(document);
 }
 
 } // namespace
 
 bool loadXmlFile(pugi::xml_document& document, const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
         return false;
     }
     const QByteArray bytes = file.readAll();
@@ -118,55 +202,11 @@ bool loadXmlFile(pugi::xml_document& document, const QString& path) {
 
 bool loadXmlText(pugi::xml_document& document, const QByteArray& text) {
     const auto utf8 = asUtf8(text);
-    const bool loaded = utf8 && document.load_buffer(utf8->constData(), static_cast<std::size_t>(utf8->size()),
-                                                     parseOptions, pugi::encoding_utf8);
-    if (!loaded || !document.document_element()) {
+    if (!utf8 || !parse(document, *utf8)) {
         document.reset();
         return false;
     }
     return true;
-}
-
-namespace {
-
-/// Collects what the document writes.
-class ByteArrayWriter final : public pugi::xml_writer {
-public:
-    explicit ByteArrayWriter(QByteArray& target)
-        : target_(target) {}
-    void write(const void* data, std::size_t size) override {
-        target_.append(static_cast<const char*>(data), static_cast<qsizetype>(size));
-    }
-
-private:
-    QByteArray& target_;
-};
-
-/// Files are written as UTF-8, whatever they were read from; a declaration must say so.
-bool declaresOtherEncoding(const pugi::xml_document& document) {
-    const pugi::xml_node first = document.first_child();
-    const pugi::xml_attribute encoding = first.attribute("encoding");
-    return first.type() == pugi::node_declaration && encoding &&
-           QByteArray(encoding.value()).toLower() != "utf-8";
-}
-
-} // namespace
-
-QByteArray fileText(const pugi::xml_document& document) {
-    QByteArray text;
-    ByteArrayWriter writer(text);
-    const auto save = [&](const pugi::xml_document& each) {
-        each.save(writer, "\t", pugi::format_indent | pugi::format_no_declaration, pugi::encoding_utf8);
-    };
-    if (declaresOtherEncoding(document)) {
-        pugi::xml_document copy;
-        copy.reset(document);
-        copy.first_child().attribute("encoding").set_value("UTF-8");
-        save(copy);
-    } else {
-        save(document);
-    }
-    return text;
 }
 
 bool isLoadable(const QByteArray& text) {
@@ -178,10 +218,10 @@ bool isXmlName(const QByteArray& name) {
     const auto isNameCharacter = [](char c) {
         const auto byte = static_cast<unsigned char>(c);
         return byte >= 0x80U || (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
-               (byte >= '0' && byte <= '9') || std::strchr("_:-.", c) != nullptr;
+               (byte >= '0' && byte <= '9') || QByteArrayView("_:-.").contains(c);
     };
     return !name.isEmpty() && std::all_of(name.begin(), name.end(), isNameCharacter) &&
-           std::strchr("0123456789-.", name.front()) == nullptr;
+           !QByteArrayView("0123456789-.").contains(name.front());
 }
 
 QString storableText(const QString& text) {
@@ -189,7 +229,8 @@ QString storableText(const QString& text) {
     kept.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar character = text.at(i);
-        const bool pair = character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        const bool pair =
+            character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
         if (pair) {
             kept += character;
             kept += text.at(++i);

@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QString>
-
 #include <pugixml.hpp>
 
 /// Loads a file into an empty document: UTF-8, UTF-16 or UTF-32 by its mark or first bytes, or the encoding

@@ -37,7 +37,8 @@ pugi::xml_node childElement(const pugi::xml_node& parent, qint32 index) {
 
 qint32 countOfElements(const pugi::xml_node& parent) {
     qint32 count = 0;
-    for (pugi::xml_node child = elementFrom(parent.first_child()); child; child = elementFrom(child.next_sibling())) {
+    for (pugi::xml_node child = elementFrom(parent.first_child()); child;
+         child = elementFrom(child.next_sibling())) {
         ++count;
     }
     return count;
@@ -58,6 +59,22 @@ pugi::xpath_node_set selected(const pugi::xml_node& from, const QString& express
         throw Failure{static_cast<qint32>(ErrorNumber::InvalidProcedureCall),
                       failure(ErrorNumber::InvalidProcedureCall).description + QStringLiteral(": ") +
                           QString::fromUtf8(invalid.what())};
+    }
+}
+
+/// Removes an element with all below it, from its leaves on: the library would recurse once a level, and the
+/// depth is the file's.
+void removeTree(const pugi::xml_node& top) {
+    pugi::xml_node node = top;
+    while (node) {
+        if (const pugi::xml_node child = node.first_child()) {
+            node = child;
+            continue;
+        }
+        pugi::xml_node parent = node.parent();
+        const bool last = node == top;
+        parent.remove_child(node);
+        node = last ? pugi::xml_node() : parent;
     }
 }
 
@@ -145,8 +162,8 @@ bool cXMLHandler::Find(const QString& sAttributeName, const QVariant& vAttribute
         if (sAttributeName.isEmpty() || value.isEmpty()) {
             return;
         }
-        result = moveTo(findFirst(QStringLiteral("//z:row[@%1 = '").arg(sAttributeName) + value +
-                                  QStringLiteral("']")));
+        result = moveTo(
+            findFirst(QStringLiteral("//z:row[@%1 = '").arg(sAttributeName) + value + QStringLiteral("']")));
     });
 }
 
@@ -173,21 +190,19 @@ bool cXMLHandler::Query(const QString& sQueryExpression) {
 std::optional<qint32> cXMLHandler::GetMax(const QString& sColumnName) {
     return routine(u"cXMLHandler.Get Max", std::optional<qint32>(), [&](std::optional<qint32>& result) {
         const QByteArray column = sColumnName.toUtf8();
+        std::optional<qint32> largest; // handed out only when no record failed
         for (pugi::xml_node record = elementFrom(required(DataNode).node.first_child()); record;
              record = elementFrom(record.next_sibling())) {
             const pugi::xml_attribute attribute = record.attribute(column.constData());
-            if (!result) {
-                if (!attribute) {
-                    throw failure(ErrorNumber::InvalidUseOfNull);
-                }
-                result = Conversion::toLong(textOf(attribute));
-                continue;
+            if (!largest && !attribute) {
+                throw failure(ErrorNumber::InvalidUseOfNull);
             }
             const QString value = textOf(attribute);
-            if (Conversion::isNumeric(value) && Conversion::toDouble(value) > *result) {
-                result = Conversion::toLong(value);
+            if (!largest || (Conversion::isNumeric(value) && Conversion::toDouble(value) > *largest)) {
+                largest = Conversion::toLong(value);
             }
         }
+        result = largest;
     });
 }
 
@@ -218,7 +233,7 @@ void cXMLHandler::removeRecord(const XmlElement& record) {
     for (XmlElement& element : ResultSet) {
         follow(element);
     }
-    pugi::xml_node(DataNode.node).remove_child(old);
+    removeTree(old);
     --RecordCount;
 }
 

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <QVariant>
-
 #include <pugixml.hpp>
 
 #include <memory>
