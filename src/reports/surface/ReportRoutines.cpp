@@ -47,21 +47,6 @@ void prepareReportPane(ReportSurface& vp) {
     vp.Zoom(78);
 }
 
-void InitCompass(ReportSurface& vp) {
-    constexpr double zoomPercent = 38; // at which the wheel fits the narrow pane beside a report
-    InitReport(vp);
-    vp.MarginBottom(0);
-    vp.MarginFooter(0);
-    vp.MarginLeft(0);
-    vp.MarginHeader(0);
-    vp.MarginRight(0);
-    vp.MarginTop(0);
-    vp.FontSize(20);
-    vp.FontBold(true);
-    vp.ZoomMode(0);
-    vp.Zoom(zoomPercent);
-}
-
 void ResetReportFont(ReportSurface& vp) {
     vp.FontName(QStringLiteral("Arial"));
     vp.FontBold(false);

@@ -17,9 +17,6 @@ void prepareCompassPane(ReportSurface& vp);
 /// Prepares the surface of a pane that shows the report on a person or an element.
 void prepareReportPane(ReportSurface& vp);
 
-/// Prepares a surface that shows one large compass or chart: no margins, large bold letters.
-void InitCompass(ReportSurface& vp);
-
 /// Sets the base text and drawing state.
 void ResetReportFont(ReportSurface& vp);
 
