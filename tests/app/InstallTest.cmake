@@ -1,0 +1,38 @@
+# Installs twice into one folder: the first time brings the program with its tables and empty records, the
+# second leaves what the user has written since.
+file(REMOVE_RECURSE "${FOLDER}")
+function(install_once)
+  execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${FOLDER}"
+                  OUTPUT_QUIET RESULT_VARIABLE result)
+  if(NOT result EQUAL 0)
+    message(FATAL_ERROR "The installation failed: ${result}")
+  endif()
+endfunction()
+
+install_once()
+foreach(name Animals Colors Directions Elements FloorTypes KUAYears PersonalDirections RoomTypes Symbols TimeOfDay
+             Trigrams Floors Locations Profiles Rooms)
+  if(NOT EXISTS "${FOLDER}/${name}.xml")
+    message(FATAL_ERROR "${name}.xml was not installed")
+  endif()
+endforeach()
+foreach(name Floors Locations Profiles Rooms)
+  file(READ "${FOLDER}/${name}.xml" content)
+  if(content MATCHES "<z:row")
+    message(FATAL_ERROR "${name}.xml holds records of somebody else")
+  endif()
+  file(WRITE "${FOLDER}/${name}.xml" "the user's own")
+endforeach()
+file(WRITE "${FOLDER}/Colors.xml" "out of date")
+
+install_once()
+foreach(name Floors Locations Profiles Rooms)
+  file(READ "${FOLDER}/${name}.xml" content)
+  if(NOT content STREQUAL "the user's own")
+    message(FATAL_ERROR "${name}.xml was overwritten")
+  endif()
+endforeach()
+file(READ "${FOLDER}/Colors.xml" content)
+if(content STREQUAL "out of date")
+  message(FATAL_ERROR "Colors.xml was not renewed")
+endif()

@@ -1,0 +1,37 @@
+#include "ui/widgets/ColorContrast.h"
+
+#include <QPalette>
+#include <gtest/gtest.h>
+
+TEST(ColorContrast, ratio_ofBlackAndWhite_is21) {
+    EXPECT_NEAR(ColorContrast::ratio(Qt::black, Qt::white), 21, 1e-9);
+    EXPECT_NEAR(ColorContrast::ratio(Qt::white, Qt::white), 1, 1e-9);
+}
+
+TEST(ColorContrast, textOn_everyGround_isLegible) {
+    constexpr int step = 15;
+    for (int red = 0; red <= 255; red += step) {
+        for (int green = 0; green <= 255; green += step) {
+            for (int blue = 0; blue <= 255; blue += step) {
+                const QColor ground(red, green, blue);
+                ASSERT_GE(ColorContrast::ratio(ColorContrast::textOn(ground), ground), 4.5)
+                    << qPrintable(ground.name());
+            }
+        }
+    }
+}
+
+TEST(ColorContrast, paperGrey_followsTheDesktopsTheme) {
+    QPalette light;
+    light.setColor(QPalette::Window, Qt::white);
+    light.setColor(QPalette::WindowText, Qt::black);
+    QPalette dark;
+    dark.setColor(QPalette::Window, Qt::black);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    EXPECT_EQ(ColorContrast::paperGrey(light), QColor(0xE9, 0xE3, 0xD6));
+    EXPECT_EQ(ColorContrast::paperGrey(dark), QColor(0x3A, 0x36, 0x2F));
+}
+
+TEST(ColorContrast, fromStored_hasRedInTheLowestByte) {
+    EXPECT_EQ(ColorContrast::fromStored(0x030201), QColor(1, 2, 3));
+}

@@ -1,0 +1,67 @@
+#include "ui/widgets/TitleBand.h"
+
+#include "support/QtPrinting.h"
+#include "ui/widgets/ColorContrast.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QToolTip>
+#include <gtest/gtest.h>
+
+TEST(TitleBand, captionText_doublesEveryAmpersand) {
+    EXPECT_EQ(captionText(QStringLiteral("A & B && C")), QStringLiteral("A && B &&&& C"));
+}
+
+TEST(TitleBand, setCaption_showsADoubledAmpersandOnce) {
+    TitleBand band;
+    band.setCaption(captionText(QStringLiteral("Smith & Sons")));
+    EXPECT_EQ(band.caption(), QStringLiteral("Smith && Sons"));
+    EXPECT_EQ(band.text(), QStringLiteral("Smith & Sons"));
+    EXPECT_EQ(band.accessibleName(), QStringLiteral("Smith & Sons"));
+}
+
+TEST(TitleBand, setCaption_singleAmpersand_isAnAcceleratorsMark) {
+    TitleBand band;
+    band.setCaption(QStringLiteral("&File&"));
+    EXPECT_EQ(band.text(), QStringLiteral("File"));
+}
+
+TEST(TitleBand, longCaption_isCutWithAnEllipsisAndWholeInTheToolTip) {
+    TitleBand band;
+    const QString name = QStringLiteral("A home with a very long name ").repeated(20);
+    band.setCaption(name);
+    band.resize(300, band.sizeHint().height());
+    EXPECT_TRUE(band.shownText().endsWith(QChar(0x2026)));
+    EXPECT_LE(band.fontMetrics().horizontalAdvance(band.shownText()), 300);
+    EXPECT_LT(band.minimumSizeHint().width(), 300);
+
+    band.show();
+    QHelpEvent wanted(QEvent::ToolTip, QPoint(10, 10), band.mapToGlobal(QPoint(10, 10)));
+    QApplication::sendEvent(&band, &wanted);
+    EXPECT_EQ(QToolTip::text(), name.toHtmlEscaped());
+    QToolTip::hideText();
+}
+
+TEST(TitleBand, shortCaption_standsWhole) {
+    TitleBand band;
+    band.setCaption(QStringLiteral("  Ann"));
+    band.resize(band.sizeHint());
+    EXPECT_EQ(band.shownText(), QStringLiteral("  Ann"));
+}
+
+TEST(TitleBand, accent_isTheGroundAndChoosesALegibleText) {
+    TitleBand band;
+    EXPECT_EQ(band.ground(), ColorContrast::paperGrey(band.palette()));
+    for (const QColor& accent : {QColor(10, 10, 60), QColor(250, 240, 200), QColor(120, 120, 120)}) {
+        band.setAccent(accent);
+        EXPECT_EQ(band.ground(), accent);
+        EXPECT_GE(ColorContrast::ratio(band.textColor(), accent), 4.5);
+    }
+}
+
+TEST(TitleBand, font_isLargerThanTheWindows) {
+    QWidget window;
+    const TitleBand band(&window);
+    EXPECT_GT(band.font().pointSizeF(), 1.3 * window.font().pointSizeF());
+    EXPECT_EQ(band.font().weight(), QFont::DemiBold);
+}
