@@ -19,6 +19,9 @@ bool contains(const Paragraphs& paragraphs, const std::string& words) {
                                [&](const std::string& one) { return one.find(words) != one.npos; });
 }
 
+/// How the paragraph about the person begins where there is one.
+const std::string mostBeneficial = "Your most beneficial directions are North, South, East and South-East. ";
+
 } // namespace
 
 // A paragraph is one literal, so that it can be compared with the printed page.
@@ -28,7 +31,7 @@ TEST_F(RoomAdvice, AnalyzeBedroom_beneficialWithAllFeatures_writesSevenSteps) {
     const RoomRow row{.type = "1", .direction = "1", .flooring = "1", .entrance = "True", .beams = "True", .lowCeiling = "True"};
     const Paragraphs expected = {
         "The best locations for an adult bedroom from the center of the home are to the North, North-West and the West.  Good locations for children, students and young adults are to the South-East and East.",
-        "Your most beneficial directions are North, South, East and South-East. "
+        mostBeneficial +
         "This location is in one of your beneficial directions.  You should not place your bedroom in a room located "
         "North-West, North-East, West or South-West from the center of your home. "
         "It is very important that the bedroom you sleep in is located in a direction which is beneficial to you.  "
@@ -48,7 +51,7 @@ TEST_F(RoomAdvice, AnalyzeBedroom_notBeneficial_namesTheBeneficialDirectionsTwic
     const RoomRow row{.type = "2", .direction = "2", .flooring = "2"};
     const Paragraphs expected = {
         "The best locations for an adult bedroom from the center of the home are to the North, North-West and the West.  Good locations for children, students and young adults are to the South-East and East.",
-        "Your most beneficial directions are North, South, East and South-East. "
+        mostBeneficial +
         "This location is not in one of your beneficial directions. Ideally, you should place your bedroom in a room located "
         "North, South, East or South-East from the center of your home. "
         "It is very important that the bedroom you sleep in is located in a direction which is beneficial to you.  "
@@ -77,7 +80,7 @@ TEST_F(RoomAdvice, AnalyzeFamilyRoom_beneficialWithAllFeatures_endsInTheSharedLo
     const RoomRow row{.type = "4", .direction = "3", .flooring = "3", .entrance = "True", .beams = "True", .lowCeiling = "True"};
     const Paragraphs expected = {
         "The best locations for a family/living room from the center of the home are to the South-East, South, South-West and the West. The location of choice should be determined by the character you wish the room to have. This will be influenced by the Element energy of that location.",
-        "Your most beneficial directions are North, South, East and South-East. This location is in one of your beneficial directions. It would be a good choice for a room in which you will likely spend much of your time at home.",
+        mostBeneficial + "This location is in one of your beneficial directions. It would be a good choice for a room in which you will likely spend much of your time at home.",
         "The location of this room is to the East of the center of your home. The Tree Element energy of this location is active and creative.  It can be a lively room for entertaining but may be too active for a relaxed family room.  To soften it up, increase the yin aspect of the room by decorating with pastel shades of the Tree Element energy - green and blue, and using bamboo or soft wood furniture.",
         "Stone floors, such as polished marble may be too yang for a family room.  Use this flooring only if you plan very formal entertaining in this room.  Offset the unsettled energy by the use of plush rectangular carpets.",
         "This entrance is located in your romance direction.  An entrance located in this direction will bring romance into your home.  This can either be in the form of a new romance or a rekindling of an existing romance.",
@@ -93,7 +96,7 @@ TEST_F(RoomAdvice, AnalyzeFamilyRoom_notBeneficial_tellsHowToSit) {
     const RoomRow row{.type = "12", .direction = "7", .flooring = "4"};
     const Paragraphs expected = {
         "The best locations for a family/living room from the center of the home are to the South-East, South, South-West and the West. The location of choice should be determined by the character you wish the room to have. This will be influenced by the Element energy of that location.",
-        "Your most beneficial directions are North, South, East and South-East. This location is not in one of your beneficial directions. If this is a room where you will spend a great deal of your time at home, you should arrange the furniture so that you are facing one of your most beneficial directions when you sit in this room.",
+        mostBeneficial + "This location is not in one of your beneficial directions. If this is a room where you will spend a great deal of your time at home, you should arrange the furniture so that you are facing one of your most beneficial directions when you sit in this room.",
         "The location of this room is to the West of the center of your home. The trigram for the West is called 'The Joyous', and well describes this location.  It is an excellent location for a family/living room.  Decorate using colors and materials that support the Metal Element energy of this location such as rose, silver/grey and gold, rounded furniture and patterns, metal statues or other objects of art.",
         "The effect of tile on the room depends on the type of tile.  Highly polished tiles raise the chi energy dramatically, making it to yang for a family/living room.  However, using terracota tiles helps to calm the chi energy.  Still, the chi may be too active for a relaxed family/living room unless rectangular carpets or throw rugs are used to calm it.",
     };
@@ -104,8 +107,8 @@ TEST_F(RoomAdvice, AnalyzeBathroom_inABeneficialDirection_warnsAndPassesOverTheB
     const RoomRow row{.type = "3", .direction = "4", .flooring = "4", .entrance = "True", .beams = "True", .lowCeiling = "True"};
     const Paragraphs expected = {
         "The best locations for a bathroom or laundry room from the center of the home are to the East or South-East. These locations have the Tree Element energy which is compatible with water nature of these types of rooms. ",
-        "Because water drains from bathrooms and laundry rooms they have a tendency to drain energy away from that location in the home. "
-        "This room is located in your Development Direction. So, it may be necessary to strengthen the chi in other rooms in this same area of your home.  Otherwise, you may find that you have difficulty achieving personal and spiritual development. "
+        std::string("Because water drains from bathrooms and laundry rooms they have a tendency to drain energy away from that location in the home. ") +
+        "This room is located in your Development Direction. So, it may be necessary to strengthen the chi in other rooms in this same area of your home.  Otherwise, you may find that you have difficulty achieving personal and spiritual development. " +
         "You can help to minimize the draining effects of a bathroom or laundry room by keeping the door closed and the toilet and washing machine lids down.  Chi tends to stagnate in these rooms, so it is important to keep the room spotlessly clean and completely free of clutter.  Store all personal hygine items in cabinets or drawers, out of sight. If the room has a window, allow as much light as possible to enter the room by pulling the curtains back, and hanging a translucent shower curtain if necessary.",
         "The location of this room is to the South-East of the center of your home. The Tree Element energy of this location is in balance with the water energy of this room. Keep the chi from stagnating by keeping the room clean, and decorating with Tree Element items such as tall plants, bamboo fixtures, and green and blue colors.",
         "The effect of tile on the room depends on the type of tile.  Highly polished tiles raise the chi energy dramatically, which is good for rooms that get very little light.  Using terracota tiles helps to calm the chi energy, which would be better for rooms that do get a lot of light.  In both cases, it's a good idea to use mats to help balance the energy in the room.",
@@ -121,7 +124,7 @@ TEST_F(RoomAdvice, AnalyzeBathroom_inNoBeneficialDirection_joinsTheFirstAndThird
     const RoomRow row{.type = "11", .direction = "5", .flooring = "1"};
     const Paragraphs expected = {
         "The best locations for a bathroom or laundry room from the center of the home are to the East or South-East. These locations have the Tree Element energy which is compatible with water nature of these types of rooms. ",
-        "Because water drains from bathrooms and laundry rooms they have a tendency to drain energy away from that location in the home. "
+        std::string("Because water drains from bathrooms and laundry rooms they have a tendency to drain energy away from that location in the home. ") +
         "You can help to minimize the draining effects of a bathroom or laundry room by keeping the door closed and the toilet and washing machine lids down.  Chi tends to stagnate in these rooms, so it is important to keep the room spotlessly clean and completely free of clutter.  Store all personal hygine items in cabinets or drawers, out of sight. If the room has a window, allow as much light as possible to enter the room by pulling the curtains back, and hanging a translucent shower curtain if necessary.",
         "The location of this room is in the center of your home. The center location is the most powerful location in a home.  Locating a bathroom here can have disastrous results, as the energy of the home will drain out through the toilet, shower or washing machine drains. If you have a bathroom in this location, try not to use it.  Or, if that is not possible, try hanging a mirror on the outside of the (closed) door to make the room 'disappear'.Ideally, the center of your home should be kept as empty and free of clutter as possible.",
         "Carpet will tend to slow the chi energy of a room that already has a tendency to stagnate the flow of chi. Therefore, carpet is not recommended for this room.  If the room has windows and good exposure to sunlight, then throw rugs or mats made from natural plant fibers over a tile floor are preferable. ",
@@ -142,7 +145,7 @@ TEST_F(RoomAdvice, AnalyzeDiningRoom_withAllFeatures_passesOverTheBeams) {
     const RoomRow row{.type = "5", .direction = "6", .flooring = "2", .entrance = "True", .beams = "True", .lowCeiling = "True"};
     const Paragraphs expected = {
         "The best locations for a dining room from the center of the home are to the West, North-West, East or South-East. The East and South-East are associated with Sunrise and the Morning time of day and would be best suited for meals early in the day. The West and North-West are associated with Sunset and Dusk and would be best suited for evening meals.",
-        "Your most beneficial directions are North, South, East and South-East. "
+        mostBeneficial +
         "Try to arrange the dining room table so that your chair faces one of these directions.",
         "The location of this room is to the North-West of the center of your home. This location has a very formal energy and is best suited for a formal dining room. If you wish to enhance the formal energy of the room, boost the Metal Element energy of the North-West by using grey/silver table cloths, place mats or napkins.  Polished metal cutlery and metal or reflective tables and chairs will also help.  If you wish to give the room a warmer, friendlier atmosphere, paint the walls either rose or rusty red color and use touches of red or purple in the place settings.",
         "Wood floors will tend to increase the yin value of the room, bringing more Tree Element energy in. It is a good choice for a dining room, as it neither stagnates nor agitates the chi here. ",
@@ -172,7 +175,7 @@ TEST_F(RoomAdvice, AnalyzeHomeOffice_withAllFeatures_namesTwoDirectionsForTheDes
     const RoomRow row{.type = "7", .direction = "9", .flooring = "1", .entrance = "True", .beams = "True", .lowCeiling = "True"};
     const Paragraphs expected = {
         "The best locations for a home office from the center of the home are to the North-West, East, South-East or South. ",
-        "Your most beneficial directions are North, South, East and South-East. "
+        mostBeneficial +
         "Try to arrange the your desk so that your chair faces either your Success Direction - North, "
         "or your Development Direction - South-East. ",
         "The location of this room is to the South of the center of your home. The Fire Element energy of this location will help attract recognition for your work. Support the fiery chi here by decorating in the Fire Element color purple. Try using angular or pointed office furniture, bright desk lights and pointed leafed plants placed well away from the desk and chair. ",
