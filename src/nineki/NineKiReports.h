@@ -12,8 +12,9 @@ class ReportSurface;
 /// `focusField` has put the focus into the field that lacks it; both surfaces then keep what they show.
 namespace NineKiReports {
 
-/// The mode for moving. Any other text counts as renovation.
+/// The modes. Any text but that for moving counts as renovation.
 inline constexpr QStringView MOVE = u"MOVE";
+inline constexpr QStringView RENOVATION = u"RENOVATION";
 
 /// The 16 directions and half directions that the years report can be asked about, in the order of the list.
 [[nodiscard]] const QStringList& directionChoices();

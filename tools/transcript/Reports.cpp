@@ -1,9 +1,13 @@
 #include "transcript/Reports.h"
 
 #include "catalogues/cElement.h"
+#include "core/Clock.h"
+#include "core/Global.h"
 #include "locations/cLocation.h"
 #include "locations/cRoom.h"
+#include "nineki/NineKiReports.h"
 #include "profiles/cProfile.h"
+#include "reports/surface/NullSurface.h"
 #include "reports/surface/ReportRoutines.h"
 #include "reports/surface/ReportSurface.h"
 
@@ -11,6 +15,10 @@
 #include <optional>
 
 namespace {
+
+const QString compassOption = QStringLiteral("--compass");
+constexpr QStringView moveMode = NineKiReports::MOVE;
+constexpr QStringView renovationMode = NineKiReports::RENOVATION;
 
 qint32 id(const QString& argument) {
     bool isNumber = false;
@@ -114,6 +122,71 @@ void writeElementCompass(const QStringList& arguments, ReportSurface& vp) {
     writeCompass(chosenElement(arguments.at(0)), vp);
 }
 
+/// A clock for the one report that counts from today.
+class ChosenDay final : public Clock {
+public:
+    explicit ChosenDay(QDate day)
+        : day_(day) {}
+    [[nodiscard]] QDate today() const override { return day_; }
+
+private:
+    QDate day_;
+};
+
+/// Runs a report that writes on two surfaces; the transcript is that of the text or, when the option is among
+/// the arguments, that of the large pane. `build` gets the other arguments and both surfaces, pane first.
+template<class Build>
+void writeOneOfTwo(QStringList arguments, qsizetype count, ReportSurface& vp, Build&& build) {
+    const bool compass = arguments.removeOne(compassOption);
+    if (arguments.size() != count) {
+        throw Refusal{Refusal::BadArguments,
+                      QStringLiteral("%1 arguments are needed beside %2.").arg(count).arg(compassOption)};
+    }
+    chooseProfile(arguments.at(0));
+    NullSurface unseen;
+    ReportSurface& pane = compass ? vp : unseen;
+    ReportSurface& text = compass ? unseen : vp;
+    build(arguments, pane, text);
+}
+
+void writeChart(const QStringList& arguments, ReportSurface& vp) {
+    writeOneOfTwo(arguments, 2, vp, [](const QStringList& given, ReportSurface& pane, ReportSurface& text) {
+        NineKiReports::GetNineKiChart(pane, text, given.at(1));
+    });
+}
+
+template<const QStringView& mode>
+void writeDirections(const QStringList& arguments, ReportSurface& vp) {
+    writeOneOfTwo(arguments, 2, vp, [](const QStringList& given, ReportSurface& pane, ReportSurface& text) {
+        NineKiReports::GetMoveDirections(pane, text, given.at(1), mode.toString());
+    });
+}
+
+/// An empty selection is let through: that nothing is selected is the report's affair.
+void writeYears(const QStringList& arguments, ReportSurface& vp) {
+    writeOneOfTwo(arguments, 4, vp, [](const QStringList& given, ReportSurface& pane, ReportSurface& text) {
+        const QString& direction = given.at(1);
+        if (!direction.isEmpty() && !NineKiReports::directionChoices().contains(direction)) {
+            throw Refusal{Refusal::BadArguments, QStringLiteral("\"%1\" is no direction.").arg(direction)};
+        }
+        const QString mode = given.at(2).toUpper();
+        if (mode != moveMode && mode != renovationMode) {
+            throw Refusal{Refusal::BadArguments,
+                          QStringLiteral("\"%1\" is neither move nor renovation.").arg(given.at(2))};
+        }
+        ChosenDay day(QDate::fromString(given.at(3), Qt::ISODate));
+        if (!day.today().isValid()) {
+            throw Refusal{Refusal::BadArguments, QStringLiteral("\"%1\" is no day.").arg(given.at(3))};
+        }
+        const Services before = Global::services();
+        Services services = before;
+        services.clock = &day;
+        Global::use(services);
+        NineKiReports::GetMoveYears(pane, text, direction, mode);
+        Global::use(before);
+    });
+}
+
 } // namespace
 
 const std::vector<TranscriptReport>& transcriptReports() {
@@ -124,6 +197,13 @@ const std::vector<TranscriptReport>& transcriptReports() {
         {QStringLiteral("element"), QStringLiteral("ELEMENTID screen|paper"), 2, 2, writeElement},
         {QStringLiteral("compass-profile"), QStringLiteral("PROFILEID"), 1, 1, writeProfileCompass},
         {QStringLiteral("compass-element"), QStringLiteral("ELEMENTID"), 1, 1, writeElementCompass},
+        {QStringLiteral("chart"), QStringLiteral("PROFILEID DATE [--compass]"), 2, 3, writeChart},
+        {QStringLiteral("move"), QStringLiteral("PROFILEID DATE [--compass]"), 2, 3,
+         writeDirections<moveMode>},
+        {QStringLiteral("renovation"), QStringLiteral("PROFILEID DATE [--compass]"), 2, 3,
+         writeDirections<renovationMode>},
+        {QStringLiteral("years"), QStringLiteral("PROFILEID DIRECTION move|renovation TODAY [--compass]"), 4,
+         5, writeYears},
     };
     return reports;
 }
