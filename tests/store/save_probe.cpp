@@ -1,0 +1,77 @@
+// Loads a record file, changes its first record and saves it, for tests that stop, starve or restrict a whole
+// process: save_probe FILE grow|shrink|stay [drop]. It raises SIGSTOP right before and after the save when
+// SAVE_PROBE_STOPS is set, saves without root's rights when "drop" is given, and prints what happened.
+
+#include "core/Global.h"
+#include "core/Prompts.h"
+#include "store/cXMLHandler.h"
+
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <string_view>
+
+namespace {
+
+/// A user with no rights of its own.
+constexpr uid_t nobody = 65534;
+
+class PrintedPrompts final : public Prompts {
+public:
+    MessageAnswer messageBox(const QString& title, const QString& text, MessageIcon /*icon*/,
+                             MessageButtons /*buttons*/) override {
+        std::printf("report [%s] [%s]\n", qPrintable(title),
+                    qPrintable(text.section(QStringLiteral("\r\n"), 1)));
+        return MessageAnswer::Ok;
+    }
+    QString inputBox(const QString& /*title*/, const QString& /*prompt*/,
+                     const QString& /*initial*/) override {
+        return {};
+    }
+    [[nodiscard]] PointerShape pointer() const override { return PointerShape::Default; }
+    void setPointer(PointerShape /*shape*/) override {}
+};
+
+/// The first record's text after the change. A record file of the tests starts with 20,000 letters there.
+QString changedText(std::string_view change) {
+    if (change == "grow") {
+        return QString(60000, u'g');
+    }
+    return change == "shrink" ? QStringLiteral("short") : QString(20000, u's');
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3) {
+        return 2;
+    }
+    PrintedPrompts prompts;
+    Services services;
+    services.prompts = &prompts;
+    Global::use(services);
+
+    cXMLHandler store;
+    if (!store.LoadDocument(QString::fromLocal8Bit(argv[1]))) {
+        std::puts("not loaded");
+        return 1;
+    }
+    const QString field = QStringLiteral("TEXT");
+    const QString text = changedText(argv[2]);
+    store.SetAttribute(field, text);
+    if (argc > 3 && getuid() == 0 && setresuid(nobody, nobody, nobody) != 0) {
+        return 2;
+    }
+    const bool stops = qEnvironmentVariableIsSet("SAVE_PROBE_STOPS");
+    if (stops) {
+        std::raise(SIGSTOP);
+    }
+    const bool saved = store.SaveDocument();
+    if (stops) {
+        std::raise(SIGSTOP);
+    }
+    std::printf("saved %d\n", saved ? 1 : 0);
+    std::printf("kept %d\n", store.GetAttribute(field) == text ? 1 : 0);
+    return 0;
+}
