@@ -419,6 +419,10 @@ TEST_F(cProfileTest, GetProfile_birthDateThatIsNone_staysAText) {
     cProfile profile;
     EXPECT_TRUE(profile.GetProfile(3));
     EXPECT_EQ(profile.BIRTHDATE, QVariant(u"unknown"_s));
+    writePerson("Tuesday or Thursday, noT later");
+    EXPECT_TRUE(profile.LoadProfiles());
+    EXPECT_TRUE(profile.GetProfile(3));
+    EXPECT_EQ(profile.BIRTHDATE, QVariant(u" uesday or  hursday, no  later"_s)); // every "T" of the form goes
 }
 
 TEST_F(cProfileTest, GetProfile_numbersOverTypedByTheUser_survive) {
