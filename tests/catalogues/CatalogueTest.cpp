@@ -188,7 +188,7 @@ protected:
                "' COLORNAME='' COLORVALUE='1' LIGHTCOLORVALUE='2' BRIGHTCOLORVALUE='3'/>";
     }
 
-    QString value(int r, qsizetype place) const {
+    QString value(qsizetype r, qsizetype place) const {
         if (place == 0) {
             return QString::number(r);
         }
@@ -197,7 +197,7 @@ protected:
     }
 
     /// Row `r`, with another value for one field where `replaced` is its place.
-    QByteArray row(int r, qsizetype replaced = -1, const QString& replacement = {}) const {
+    QByteArray row(qsizetype r, qsizetype replaced = -1, const QString& replacement = {}) const {
         QString text = u"<z:row"_s;
         for (qsizetype place = 0; place < about.fields.size(); ++place) {
             text += u" %1='%2'"_s.arg(about.fields.at(place).attribute,
@@ -206,7 +206,7 @@ protected:
         return (text + u"/>"_s).toUtf8();
     }
 
-    QStringList values(int r) const {
+    QStringList values(qsizetype r) const {
         QStringList all;
         for (qsizetype place = 0; place < about.fields.size(); ++place) {
             all << value(r, place);
