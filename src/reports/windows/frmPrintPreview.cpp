@@ -53,6 +53,11 @@ frmPrintPreview::frmPrintPreview(QWidget* parent)
     connect(vpPrintPreview, &PreviewWidget::pageChosen, pager_.get(), &ReportPager::showChosenPage);
 }
 
+frmPrintPreview::~frmPrintPreview() {
+    // The preview reads the surface, which goes before the window's other children do.
+    delete vpPrintPreview;
+}
+
 void frmPrintPreview::buildControls() {
     constexpr int edge = 16;
     constexpr int between = 8;

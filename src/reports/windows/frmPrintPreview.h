@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+#include <memory>
+
 class PreviewWidget;
 class QAction;
 class TitleBand;
@@ -16,6 +18,9 @@ class frmPrintPreview final : public QDialog {
 
 public:
     explicit frmPrintPreview(QWidget* parent = nullptr);
+    frmPrintPreview(const frmPrintPreview&) = delete;
+    frmPrintPreview& operator=(const frmPrintPreview&) = delete;
+    ~frmPrintPreview() override;
 
     /// Shows the report modally and comes back when the window is closed.
     void PrintRoomReport();
