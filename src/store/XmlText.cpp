@@ -7,11 +7,10 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <new>
 #include <optional>
-#include <string_view>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -98,120 +97,121 @@ bool looksWide(const QByteArray& bytes) {
     return head.startsWith("\xFF\xFE") || head.startsWith("\xFE\xFF") || head.contains('\0');
 }
 
-std::optional<QByteArray> decoded(QStringDecoder decode, const QByteArray& bytes) {
+/// The bytes of a file in another encoding as UTF-8; nothing when they are not well encoded.
+std::optional<QByteArray> decoded(const QByteArray& bytes) {
+    const QByteArray declared = declaredEncoding(bytes);
+    QStringDecoder decode;
+    if (looksWide(bytes)) {
+        const auto wide = QStringConverter::encodingForData(bytes, u'<');
+        decode = wide ? QStringDecoder(*wide) : QStringDecoder();
+    } else if (!declared.startsWith("utf-")) { // a wide encoding would have shown in the first bytes
+        decode = QStringDecoder(declared.constData());
+    }
+    if (!decode.isValid()) {
+        return std::nullopt;
+    }
     const QString text = decode(bytes);
     return decode.hasError() || !text.isValidUtf16() ? std::nullopt : std::optional(text.toUtf8());
 }
 
-/// The file's bytes as UTF-8; nothing when they are not well encoded.
-std::optional<QByteArray> asUtf8(const QByteArray& bytes) {
-    std::optional<QByteArray> utf8 = bytes;
-    const QByteArray encoding = declaredEncoding(bytes);
-    if (looksWide(bytes)) {
-        const auto wide = QStringConverter::encodingForData(bytes, u'<');
-        utf8 = wide ? decoded(QStringDecoder(*wide), bytes) : std::nullopt;
-    } else if (!encoding.isEmpty() && encoding != "utf-8" && encoding != "us-ascii") {
-        QStringDecoder decoder(encoding.constData());
-        // A wide encoding would have shown in the first bytes.
-        const bool usable = decoder.isValid() && !encoding.startsWith("utf-");
-        utf8 = usable ? decoded(std::move(decoder), bytes) : std::nullopt;
-    }
-    return utf8 && isUtf8(*utf8) ? utf8 : std::nullopt;
+/// Whether text stands beside the elements of a document.
+bool holdsText(const pugi::xml_document& document) {
+    const auto nodes = document.children();
+    return std::any_of(nodes.begin(), nodes.end(), [](const pugi::xml_node& node) {
+        return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
+    });
 }
 
-/// Whether a document holds one root element and no text beside it.
 bool hasOneRoot(const pugi::xml_document& document) {
-    int roots = 0;
-    for (const pugi::xml_node node : document.children()) {
-        roots += node.type() == pugi::node_element ? 1 : 0;
-        if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) {
-            return false;
-        }
-    }
-    return roots == 1;
+    const auto nodes = document.children();
+    return !holdsText(document) && std::count_if(nodes.begin(), nodes.end(), [](const pugi::xml_node& node) {
+                                       return node.type() == pugi::node_element;
+                                   }) == 1;
 }
 
-/// Finds elements that carry an attribute twice. Records carry the same attributes in the same order, so that
-/// one comparison with the record before settles most of them.
-class AttributeNames {
-public:
-    bool areUnique(const pugi::xml_node& element) {
-        std::size_t same = 0;
-        std::size_t count = 0;
-        for (const pugi::xml_attribute& attribute : element.attributes()) {
-            if (same == count && same < known_.size() && std::strcmp(known_[same], attribute.name()) == 0) {
-                ++same;
-            }
-            ++count;
-        }
-        if (same == count) {
-            return true;
-        }
-        known_.clear();
-        for (const pugi::xml_attribute& attribute : element.attributes()) {
-            known_.push_back(attribute.name());
-        }
-        std::vector<std::string_view> sorted(known_.begin(), known_.end());
-        std::sort(sorted.begin(), sorted.end());
-        return std::adjacent_find(sorted.begin(), sorted.end()) == sorted.end();
-    }
-
-private:
-    std::vector<const char*> known_;
+/// A buffer that a document may own.
+struct FreeBuffer {
+    void operator()(void* buffer) const { pugi::get_memory_deallocation_function()(buffer); }
 };
+using Buffer = std::unique_ptr<char, FreeBuffer>;
 
-bool hasUniqueAttributes(const pugi::xml_document& document) {
-    AttributeNames names;
-    pugi::xml_node node = document.first_child();
-    while (node) {
-        if (!names.areUnique(node)) {
-            return false;
-        }
-        pugi::xml_node next = node.first_child();
-        while (node && !next) {
-            next = node.next_sibling();
-            node = node.parent();
-        }
-        node = next;
-    }
-    return true;
-}
-
-/// Parses in place, in a buffer that the document then owns.
-bool parse(pugi::xml_document& document, const QByteArray& utf8) {
-    const auto size = static_cast<std::size_t>(utf8.size()) + 1; // with the closing NUL
-    void* buffer = pugi::get_memory_allocation_function()(size);
-    if (buffer == nullptr) {
+Buffer allocated(std::size_t size) {
+    Buffer buffer(static_cast<char*>(pugi::get_memory_allocation_function()(size)));
+    if (!buffer) {
         throw std::bad_alloc();
     }
-    std::memcpy(buffer, utf8.constData(), size);
-    return document.load_buffer_inplace_own(buffer, size, parseOptions, pugi::encoding_utf8) &&
-           hasOneRoot(document) && hasUniqueAttributes(document);
+    return buffer;
+}
+
+/// Parses `size` bytes and the closing NUL behind them in place. The document owns the buffer from then on.
+bool parse(pugi::xml_document& document, Buffer buffer, std::size_t size) {
+    const bool parsed =
+        document.load_buffer_inplace_own(buffer.release(), size + 1, parseOptions, pugi::encoding_utf8) &&
+        hasOneRoot(document);
+    if (!parsed) {
+        document.reset();
+    }
+    return parsed;
+}
+
+/// Whether the bytes can be parsed as they stand.
+bool needsNoDecoding(const QByteArray& bytes) {
+    const QByteArray encoding = declaredEncoding(bytes);
+    return !looksWide(bytes) && (encoding.isEmpty() || encoding == "utf-8" || encoding == "us-ascii");
 }
 
 } // namespace
 
 bool loadXmlFile(pugi::xml_document& document, const QString& path) {
     QFile file(path);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return false;
     }
-    const QByteArray bytes = file.readAll();
-    return file.error() == QFileDevice::NoError && loadXmlText(document, bytes);
+    // The usual file is read once, to where it is parsed.
+    const auto size = static_cast<std::size_t>(file.size());
+    Buffer buffer = allocated(size + 1);
+    if (file.read(buffer.get(), static_cast<qint64>(size)) != static_cast<qint64>(size)) {
+        return false;
+    }
+    buffer.get()[size] = '\0';
+    const QByteArray bytes = QByteArray::fromRawData(buffer.get(), static_cast<qsizetype>(size));
+    if (!needsNoDecoding(bytes)) {
+        return loadXmlText(document, bytes);
+    }
+    return isUtf8(bytes) && parse(document, std::move(buffer), size);
 }
 
 bool loadXmlText(pugi::xml_document& document, const QByteArray& text) {
-    const auto utf8 = asUtf8(text);
-    if (!utf8 || !parse(document, *utf8)) {
-        document.reset();
+    const auto utf8 = needsNoDecoding(text) ? std::optional(text) : decoded(text);
+    if (!utf8 || !isUtf8(*utf8)) {
         return false;
     }
-    return true;
+    const auto size = static_cast<std::size_t>(utf8->size());
+    Buffer buffer = allocated(size + 1);
+    std::memcpy(buffer.get(), utf8->constData(), size);
+    buffer.get()[size] = '\0';
+    return parse(document, std::move(buffer), size);
 }
 
-bool isLoadable(const QByteArray& text) {
+bool isLoadable(const QByteArray& text, const std::vector<TextPiece>& pieces) {
+    if (!isUtf8(text)) {
+        return false;
+    }
     pugi::xml_document document;
-    return loadXmlText(document, text);
+    QByteArray frame;
+    qsizetype at = 0;
+    for (const TextPiece& piece : pieces) {
+        const bool parsed = document.load_buffer(text.constData() + piece.start,
+                                                 static_cast<std::size_t>(piece.end - piece.start),
+                                                 parseOptions, pugi::encoding_utf8);
+        if (!parsed || holdsText(document)) {
+            return false;
+        }
+        frame.append(text.constData() + at, piece.start - at);
+        at = piece.end;
+    }
+    frame.append(text.constData() + at, text.size() - at);
+    return loadXmlText(document, frame);
 }
 
 bool isXmlName(const QByteArray& name) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -23,6 +25,8 @@ public:
     }
     void append(const char* text) { append(text, std::strlen(text)); }
     void append(char character) { append(&character, 1); }
+
+    [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(used_); }
 
     [[nodiscard]] QByteArray take() {
         bytes_.truncate(static_cast<qsizetype>(used_));
@@ -61,6 +65,9 @@ public:
     QByteArray write() {
         pugi::xml_node node = document_.first_child();
         while (node) {
+            if (depth_ == recordDepth && !inline_) {
+                markRecord();
+            }
             startLine();
             if (writeOpening(node)) {
                 if (!inline_ && holdsText(node)) {
@@ -81,7 +88,31 @@ public:
         return text_.take();
     }
 
+    /// Where the text can be taken apart: runs of whole records, in order.
+    [[nodiscard]] const std::vector<TextPiece>& pieces() const { return pieces_; }
+
 private:
+    /// Records are the children of the root's children.
+    static constexpr int recordDepth = 2;
+    static constexpr qsizetype pieceSize = 16 * 1024;
+
+    void markRecord() {
+        const qsizetype at = text_.size();
+        if (inPiece_ && at - pieces_.back().start < pieceSize) {
+            return;
+        }
+        closePiece();
+        pieces_.push_back({at, at});
+        inPiece_ = true;
+    }
+
+    void closePiece() {
+        if (inPiece_) {
+            pieces_.back().end = text_.size();
+            inPiece_ = false;
+        }
+    }
+
     /// Blanks would change an element that holds text.
     static bool holdsText(const pugi::xml_node& element) {
         const auto children = element.children();
@@ -143,6 +174,9 @@ private:
             return; // the document itself
         }
         --depth_;
+        if (depth_ < recordDepth) {
+            closePiece();
+        }
         startLine();
         writeBetween("</", node.name(), ">");
         if (inline_ == node) {
@@ -152,20 +186,22 @@ private:
     }
 
     void writeAttributes(const pugi::xml_node& node) {
-        for (const pugi::xml_attribute& attribute : node.attributes()) {
+        const bool declaration = node.type() == pugi::node_declaration;
+        for (pugi::xml_attribute attribute = node.first_attribute(); attribute;
+             attribute = attribute.next_attribute()) {
             text_.append(' ');
             text_.append(attribute.name());
             text_.append("=\"", 2);
             // Files are written as UTF-8, whatever they were read from; the declaration must say so.
-            const bool encoding =
-                node.type() == pugi::node_declaration && std::strcmp(attribute.name(), "encoding") == 0;
-            writeEscaped(encoding && !saysUtf8(attribute) ? "UTF-8" : attribute.value(), Place::Attribute);
+            const bool replaced = declaration && namesOtherEncoding(attribute);
+            writeEscaped(replaced ? "UTF-8" : attribute.value(), Place::Attribute);
             text_.append('"');
         }
     }
 
-    static bool saysUtf8(const pugi::xml_attribute& encoding) {
-        return QByteArrayView(encoding.value()).compare("utf-8", Qt::CaseInsensitive) == 0;
+    static bool namesOtherEncoding(const pugi::xml_attribute& attribute) {
+        return std::strcmp(attribute.name(), "encoding") == 0 &&
+               QByteArrayView(attribute.value()).compare("utf-8", Qt::CaseInsensitive) != 0;
     }
 
     void writeBetween(const char* before, const char* value, const char* after) {
@@ -214,10 +250,18 @@ private:
     int depth_ = 0;
     /// The outermost element with text in it that the walk is inside of.
     pugi::xml_node inline_;
+    std::vector<TextPiece> pieces_;
+    bool inPiece_ = false;
 };
 
 } // namespace
 
 QByteArray fileText(const pugi::xml_document& document) {
     return XmlWriter(document).write();
+}
+
+std::optional<QByteArray> loadableFileText(const pugi::xml_document& document) {
+    XmlWriter writer(document);
+    QByteArray text = writer.write();
+    return isLoadable(text, writer.pieces()) ? std::optional(text) : std::nullopt;
 }

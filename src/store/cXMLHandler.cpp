@@ -133,11 +133,11 @@ bool cXMLHandler::SaveDocument(const std::optional<QString>& vFilename) {
         if (!Dom) {
             throw failure(ErrorNumber::ObjectNotSet);
         }
-        const QByteArray text = fileText(*Dom);
-        if (!isLoadable(text)) {
+        const std::optional<QByteArray> text = loadableFileText(*Dom);
+        if (!text) {
             throw failure(ErrorNumber::InvalidFileFormat); // never write what could not be read again
         }
-        writeOverFile(ExternalFileName, text);
+        writeOverFile(ExternalFileName, *text);
         result = true;
     });
 }

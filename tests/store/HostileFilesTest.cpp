@@ -26,40 +26,37 @@ protected:
 };
 
 TEST_F(HostileFilesTest, load_malformedFiles_areRefusedInSilence) {
-    for (const QByteArray& content :
-         std::initializer_list<QByteArray>{"",
-                                           " ",
-                                           "\n",
-                                           "text",
-                                           "<",
-                                           "<xml",
-                                           "<xml>",
-                                           "</xml>",
-                                           "<xml></lmx>",
-                                           "<xml><a></xml></a>",
-                                           "<xml a></xml>",
-                                           "<xml a=></xml>",
-                                           "<xml a=1></xml>",
-                                           "<xml a=\"1></xml>",
-                                           "<xml a='1\"></xml>",
-                                           "<xml a=\"1\"b=\"2\"></xml>",
-                                           "<1></1>",
-                                           "<xml><!-- </xml>",
-                                           "<xml><![CDATA[ </xml>",
-                                           "<xml><?pi </xml>",
-                                           "<!DOCTYPE xml [",
-                                           "<?xml version=\"1.0\"?>",
-                                           "<!-- only this -->",
-                                           "<xml/>text",
-                                           "text<xml/>",
-                                           "<xml/><xml/>",
-                                           "<xml/><![CDATA[text]]>",
-                                           "<xml a=\"1\" a=\"2\"/>",
-                                           "<xml><z:row ID=\"1\" N=\"2\" ID=\"1\"/></xml>",
-                                           "{\"json\": true}",
-                                           "PK\x03\x04",
-                                           "\x7F"
-                                           "ELF"}) {
+    for (const QByteArray& content : std::initializer_list<QByteArray>{"",
+                                                                       " ",
+                                                                       "\n",
+                                                                       "text",
+                                                                       "<",
+                                                                       "<xml",
+                                                                       "<xml>",
+                                                                       "</xml>",
+                                                                       "<xml></lmx>",
+                                                                       "<xml><a></xml></a>",
+                                                                       "<xml a></xml>",
+                                                                       "<xml a=></xml>",
+                                                                       "<xml a=1></xml>",
+                                                                       "<xml a=\"1></xml>",
+                                                                       "<xml a='1\"></xml>",
+                                                                       "<xml a=\"1\"b=\"2\"></xml>",
+                                                                       "<1></1>",
+                                                                       "<xml><!-- </xml>",
+                                                                       "<xml><![CDATA[ </xml>",
+                                                                       "<xml><?pi </xml>",
+                                                                       "<!DOCTYPE xml [",
+                                                                       "<?xml version=\"1.0\"?>",
+                                                                       "<!-- only this -->",
+                                                                       "<xml/>text",
+                                                                       "text<xml/>",
+                                                                       "<xml/><xml/>",
+                                                                       "<xml/><![CDATA[text]]>",
+                                                                       "{\"json\": true}",
+                                                                       "PK\x03\x04",
+                                                                       "\x7F"
+                                                                       "ELF"}) {
         expectRefused(content);
     }
 }
@@ -205,8 +202,16 @@ TEST_F(HostileFilesTest, load_recordWithHundredThousandFields_isReadInTime) {
     ASSERT_TRUE(load(fileOf({record})));
     EXPECT_EQ(field("F99999"), u"99999"_s);
     ASSERT_TRUE(store.SaveDocument());
-    EXPECT_FALSE(load(fileOf({record + "F7=\"again\""})));
     EXPECT_LT(timer.elapsed(), 20000); // comparing each with each would take minutes
+}
+
+TEST_F(HostileFilesTest, load_attributeThatStandsTwice_isReadAsTheFirst) {
+    ASSERT_TRUE(load(fileOf({R"(ID="1" N="2" ID="3")"})));
+    EXPECT_EQ(field("ID"), u"1"_s);
+    EXPECT_TRUE(store.SetAttribute(u"ID"_s, 4));
+    ASSERT_TRUE(store.SaveDocument());
+    ASSERT_TRUE(store.LoadDocument());
+    EXPECT_EQ(field("ID"), u"4"_s);
 }
 
 TEST_F(HostileFilesTest, load_longNamesAndValues_areReadWhole) {

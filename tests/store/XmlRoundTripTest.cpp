@@ -166,6 +166,21 @@ TEST_F(XmlRoundTripTest, save_textInsideElements_keepsItsBlanks) {
     EXPECT_STREQ(store.CurrentNode.node.text().get(), "a\rb");
 }
 
+TEST_F(XmlRoundTripTest, save_documentsOfEverySize_areWholeAtTheSeamsOfTheCheck) {
+    // What is read back before the write is taken apart every so often; no row may fall between.
+    for (const int rows : {1, 2, 160, 161, 162, 163, 164, 165, 700}) {
+        QByteArrayList records;
+        for (int i = 0; i < rows; ++i) {
+            records << "ID=\"" + QByteArray::number(i) + "\" N=\"" + QByteArray(80, 'n') + '"';
+        }
+        ASSERT_TRUE(load(fileOf(records)));
+        ASSERT_TRUE(store.SaveDocument());
+        EXPECT_EQ(recordLines(world.read(fileName)).size(), rows);
+        ASSERT_TRUE(store.LoadDocument());
+        EXPECT_EQ(store.RecordCount, rows);
+    }
+}
+
 TEST_F(XmlRoundTripTest, load_wideEncodings_areReadWithAndWithoutMarkAndSavedAsUtf8) {
     const QString text = QString::fromUtf8(fileOf({R"(NAME="Größe 家 😀")"}));
     for (const QStringConverter::Encoding encoding : {QStringConverter::Utf16LE, QStringConverter::Utf16BE,

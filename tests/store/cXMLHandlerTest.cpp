@@ -479,6 +479,33 @@ TEST_F(cXMLHandlerTest, XML_writeThatDoesNotParse_isSilentAndNothingOfItCanBeSav
     EXPECT_EQ(world.read(fileName), before);
 }
 
+TEST_F(cXMLHandlerTest, SaveDocument_treeThatWouldNotLoadAgain_isReportedAndTheFileStays) {
+    loadThree();
+    ASSERT_TRUE(store.SaveDocument());
+    const QByteArray before = world.read(fileName);
+    const auto expectRefused = [&] {
+        world.prompts.expectError(u"cXMLHandler.Save Document"_s, 321, u"Invalid file format"_s);
+        EXPECT_FALSE(store.SaveDocument());
+        EXPECT_EQ(world.read(fileName), before);
+    };
+    // Nothing of this program builds such trees; whatever did must not cost the file.
+    store.CurrentNode.node.set_name("z:row <");
+    expectRefused();
+    store.CurrentNode.node.set_name("z:row");
+    pugi::xml_node comment = store.DataNode.node.append_child(pugi::node_comment);
+    comment.set_value("--></rs:data>");
+    expectRefused();
+    store.DataNode.node.remove_child(comment);
+    pugi::xml_node second = store.Dom->append_child("second-root");
+    expectRefused();
+    store.Dom->remove_child(second);
+    store.CurrentNode.node.append_attribute("BAD").set_value("\xFF");
+    expectRefused();
+    store.DeleteAttribute(u"BAD"_s);
+    EXPECT_TRUE(store.SaveDocument());
+    EXPECT_EQ(world.read(fileName), before);
+}
+
 TEST_F(cXMLHandlerTest, twoStores_onOneFile_seeEachOtherOnlyThroughTheFile) {
     loadThree();
     cXMLHandler other;
