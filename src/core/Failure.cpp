@@ -1,5 +1,7 @@
 #include "core/Failure.h"
 
+#include "core/Global.h"
+
 #include <exception>
 
 namespace {

@@ -39,11 +39,6 @@ enum class ErrorNumber : qint32 {
 /// A failure with the number's classic description, for example 11 with "Division by zero".
 [[nodiscard]] Failure failure(ErrorNumber number);
 
-namespace Global {
-/// Reports a failure to the user; see Global.h.
-void HandleError(QStringView label, qint32 number, const QString& description);
-} // namespace Global
-
 namespace detail {
 /// Turns the exception in flight into a Failure and reports it under the label. To be called from a catch
 /// block only.
