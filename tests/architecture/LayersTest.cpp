@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -86,7 +85,8 @@ TEST(Layers, onlyThePromptsNameTheToolkitsBoxes) {
     static const QRegularExpression boxes(QStringLiteral("QMessageBox|QInputDialog"));
     for (const QString& file : sourceFiles()) {
         if (!file.contains(QStringLiteral("DialogPrompts"))) {
-            EXPECT_FALSE(contentOf(root + QStringLiteral("/src/") + file).contains(boxes)) << qPrintable(file);
+            EXPECT_FALSE(contentOf(root + QStringLiteral("/src/") + file).contains(boxes))
+                << qPrintable(file);
         }
     }
 }

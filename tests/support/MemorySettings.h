@@ -13,7 +13,8 @@ public:
     [[nodiscard]] bool isEmpty() const { return entries_.isEmpty(); }
     void refuseWrites(bool refuse) { refuseWrites_ = refuse; }
 
-    [[nodiscard]] std::optional<SettingValue> value(const QString& section, const QString& name) const override;
+    [[nodiscard]] std::optional<SettingValue> value(const QString& section,
+                                                    const QString& name) const override;
     bool setValue(const QString& section, const QString& name, const SettingValue& value) override;
     bool removeValue(const QString& section, const QString& name) override;
     bool removeKey(const QString& section, const QString& child) override;

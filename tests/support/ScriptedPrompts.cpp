@@ -39,7 +39,8 @@ void ScriptedPrompts::expectError(const QString& label, qint32 number, const QSt
 
 void ScriptedPrompts::expectError(const QString& label, qint32 number) {
     const QString start = QStringLiteral("%1\r\n%2-").arg(label).arg(number);
-    expected_.push_back({{}, QStringLiteral("message box [%1] [%2").arg(label, start), MessageAnswer::Ok, {}});
+    expected_.push_back(
+        {{}, QStringLiteral("message box [%1] [%2").arg(label, start), MessageAnswer::Ok, {}});
 }
 
 void ScriptedPrompts::expectInput(const QString& title, const QString& prompt, const QString& initial,

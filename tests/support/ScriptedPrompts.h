@@ -25,7 +25,8 @@ public:
     /// The same with any description, for texts that a library words.
     void expectError(const QString& label, qint32 number);
     /// The next box must be this input box.
-    void expectInput(const QString& title, const QString& prompt, const QString& initial, const QString& answer);
+    void expectInput(const QString& title, const QString& prompt, const QString& initial,
+                     const QString& answer);
 
     /// Whether all that was expected has come; the destructor asks too.
     [[nodiscard]] bool isSatisfied() const { return expected_.empty(); }

@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QLocale>
+#include <gtest/gtest.h>
 
 #include <cstdlib>
 

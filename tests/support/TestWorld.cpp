@@ -2,10 +2,9 @@
 
 #include "core/Global.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
+#include <gtest/gtest.h>
 
 namespace {
 

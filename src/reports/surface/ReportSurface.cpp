@@ -2,8 +2,8 @@
 
 QString surfacePropertyName(SurfaceProperty property) {
     switch (property) {
-#define NAME(name)                                                                                               \
-    case SurfaceProperty::name:                                                                                  \
+#define NAME(name)                                                                                           \
+    case SurfaceProperty::name:                                                                              \
         return QStringLiteral(#name)
         NAME(BackColor);
         NAME(BrushColor);
