@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/VersionRecord.h"
+
 #include <QLocale>
 #include <QString>
 
@@ -22,7 +24,7 @@ struct Services {
     /// Folder of the executable, beside which all record files lie.
     QString applicationPath;
     /// The application's title, part of the settings' paths.
-    QString title = QStringLiteral("Talivane");
+    QString title = VersionRecord::title.toString();
     /// The user's regional settings.
     QLocale locale = QLocale::system();
 };
