@@ -4,9 +4,11 @@
 #include "locations/cLocation.h"
 #include "profiles/cProfile.h"
 #include "reports/windows/frmPrintPreview.h"
+#include "ui/HelpLinks.h"
 #include "ui/LocationPane.h"
 #include "ui/ProfilePane.h"
 #include "ui/StatusPanels.h"
+#include "ui/frmAbout.h"
 #include "ui/platform/WidgetPlacement.h"
 
 #include <QAction>
@@ -101,7 +103,9 @@ void frmView::buildMenus() {
                {"mnuAdviceElement", "On &Elements..."},
                {"mnuAdviceProfile", "On &Profiles..."}});
     buildMenu(QStringLiteral("mnuHelp"), QStringLiteral("&Help"),
-              {{"mnuHelpFaqs", "&FAQs"}, {"mnuHelpSupport", "&Support"}, {"mnuAbout", "&About..."}});
+              {{"mnuHelpFaqs", "&FAQs", &frmView::mnuHelpFaqs_Click},
+               {"mnuHelpSupport", "&Support", &frmView::mnuHelpSupport_Click},
+               {"mnuAbout", "&About...", &frmView::mnuAbout_Click}});
 }
 
 QWidget* frmView::buildToolbar() {
@@ -313,6 +317,19 @@ void frmView::mnuFileExit_Click() {
 
 void frmView::mnuAdviceRooms_Click() {
     passOver([this] { frmPrintPreview(this).PrintRoomReport(); });
+}
+
+void frmView::mnuHelpFaqs_Click() {
+    passOver(
+        [] { HelpLinks::open(QStringLiteral("faq.html"), QStringLiteral("Frequently Asked Questions")); });
+}
+
+void frmView::mnuHelpSupport_Click() {
+    passOver([] { HelpLinks::open(QStringLiteral("contact.html"), QStringLiteral("Support")); });
+}
+
+void frmView::mnuAbout_Click() {
+    passOver([this] { frmAbout(this).ShowAbout(); });
 }
 
 void frmView::Form_Unload() {

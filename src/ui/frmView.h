@@ -55,6 +55,9 @@ private:
     void showPane(Pane pane);
     void mnuFileExit_Click();
     void mnuAdviceRooms_Click();
+    void mnuHelpFaqs_Click();
+    void mnuHelpSupport_Click();
+    void mnuAbout_Click();
 
     bool loaded_ = false;
     ProfilePane* vsMainProfile = nullptr;
