@@ -19,7 +19,7 @@ const QString fileName = QStringLiteral("Rooms.xml");
 
 void BM_LoadDocument(benchmark::State& state) {
     const BenchWorld world(rooms);
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         cXMLHandler store;
         if (!store.LoadDocument(world.file(fileName)) || store.RecordCount != rooms) {
             std::abort();
@@ -31,7 +31,7 @@ BENCHMARK(BM_LoadDocument)->Unit(benchmark::kMillisecond)->UseRealTime();
 void BM_LoadWithPugixml(benchmark::State& state) {
     const BenchWorld world(rooms);
     const QByteArray path = QFile::encodeName(world.file(fileName));
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         pugi::xml_document document;
         if (!document.load_file(path.constData())) {
             std::abort();
@@ -44,7 +44,7 @@ void BM_SaveDocument(benchmark::State& state) {
     const BenchWorld world(rooms);
     cXMLHandler store;
     store.LoadDocument(world.file(fileName));
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         if (!store.SaveDocument()) {
             std::abort();
         }
@@ -66,7 +66,7 @@ void BM_SaveWithPugixml(benchmark::State& state) {
     const QByteArray path = QFile::encodeName(world.file(fileName));
     pugi::xml_document document;
     document.load_file(path.constData());
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         StringWriter writer;
         document.save(writer, "\t", pugi::format_indent | pugi::format_no_declaration, pugi::encoding_utf8);
         const int file = open(path.constData(), O_WRONLY | O_TRUNC | O_CLOEXEC);
