@@ -1,6 +1,9 @@
+#include "catalogues/cElement.h"
 #include "locations/cLocation.h"
 #include "locations/cRoom.h"
+#include "nineki/NineKiReports.h"
 #include "profiles/cProfile.h"
+#include "reports/surface/ReportRoutines.h"
 #include "support/RecordedReport.h"
 #include "support/TestWorld.h"
 
@@ -9,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -140,6 +144,62 @@ TEST_F(Transcript, room_isTheCallsOfTheBuilder) {
     EXPECT_EQ(callsOf(transcript, QStringLiteral("BackColor")).size(), 1);
 }
 
+TEST_F(Transcript, profileAndElement_areTheCallsOfTheirWindows) {
+    for (const bool forPaper : {false, true}) {
+        const QString medium = forPaper ? QStringLiteral("paper") : QStringLiteral("screen");
+        const auto asInAWindow = [&](const auto& record) {
+            return [&record, forPaper](ReportSurface& vp) {
+                modRooms::InitReport(vp);
+                vp.ZoomMode(0);
+                vp.Zoom(78);
+                vp.StartDoc();
+                // The program's page is A4, the recording one has letter height.
+                record.GenerateReport(vp, forPaper);
+                vp.EndDoc();
+            };
+        };
+        const auto withoutBand = [](Lines lines) {
+            std::erase_if(lines, [](const std::string& line) {
+                return line.find("DrawRectangle") != std::string::npos;
+            });
+            return lines;
+        };
+        cProfile person;
+        ASSERT_TRUE(person.GetProfile(1));
+        const Outcome profile = run({QStringLiteral("profile"), QStringLiteral("1"), medium});
+        EXPECT_EQ(profile.exitCode, 0) << profile.complaint.constData();
+        EXPECT_EQ(withoutBand(profile.lines()), withoutBand(linesOf(asInAWindow(person))));
+        EXPECT_EQ(callsOf(profile, QStringLiteral("DrawRectangle")).size(), forPaper ? 0 : 1);
+        cElement element;
+        ASSERT_TRUE(element.GetElement(3));
+        const Outcome transcript = run({QStringLiteral("element"), QStringLiteral("3"), medium});
+        EXPECT_EQ(transcript.exitCode, 0) << transcript.complaint.constData();
+        EXPECT_EQ(withoutBand(transcript.lines()), withoutBand(linesOf(asInAWindow(element))));
+        EXPECT_EQ(callsOf(transcript, QStringLiteral("DrawRectangle")).size(), forPaper ? 0 : 1);
+    }
+}
+
+TEST_F(Transcript, compasses_areTheCallsOfTheirPanes) {
+    const auto inAPane = [](const auto& record) {
+        return [&record](ReportSurface& vp) {
+            modRooms::prepareCompassPane(vp);
+            vp.StartDoc();
+            record.DrawCompass(vp, 6000, 6000);
+            vp.EndDoc();
+        };
+    };
+    cProfile person;
+    ASSERT_TRUE(person.GetProfile(2));
+    const Outcome profile = run({QStringLiteral("compass-profile"), QStringLiteral("2")});
+    EXPECT_EQ(profile.exitCode, 0) << profile.complaint.constData();
+    EXPECT_EQ(profile.lines(), linesOf(inAPane(person)));
+    cElement element;
+    ASSERT_TRUE(element.GetElement(5));
+    const Outcome transcript = run({QStringLiteral("compass-element"), QStringLiteral("5")});
+    EXPECT_EQ(transcript.exitCode, 0) << transcript.complaint.constData();
+    EXPECT_EQ(transcript.lines(), linesOf(inAPane(element)));
+}
+
 TEST_F(Transcript, boxes_standInTheirPlaceWithTheClassicIconNumber) {
     world.remove(QStringLiteral("Colors.xml"));
     const Outcome transcript = run({QStringLiteral("room"), QStringLiteral("1"), QStringLiteral("8")});
@@ -162,9 +222,12 @@ TEST_F(Transcript, unknownRecords_areToldAndEndInOne) {
         {QStringLiteral("rooms"), QStringLiteral("1"), QStringLiteral("99")},
         {QStringLiteral("room"), QStringLiteral("99"), QStringLiteral("1")},
         {QStringLiteral("room"), QStringLiteral("1"), QStringLiteral("99")},
+        {QStringLiteral("profile"), QStringLiteral("99"), QStringLiteral("paper")},
+        {QStringLiteral("compass-element"), QStringLiteral("6")},
     };
     const QList<QByteArray> complaints = {"There is no profile 99.\n", "There is no location 99.\n",
-                                          "There is no profile 99.\n", "There is no room 99.\n"};
+                                          "There is no profile 99.\n", "There is no room 99.\n",
+                                          "There is no profile 99.\n", "There is no element 6.\n"};
     for (qsizetype i = 0; i < unknown.size(); ++i) {
         const Outcome refused = run(unknown.at(i));
         EXPECT_EQ(refused.exitCode, 1) << qPrintable(unknown.at(i).join(u' '));
@@ -180,6 +243,9 @@ TEST_F(Transcript, badArguments_areToldWithTheUsageAndEndInTwo) {
         {QStringLiteral("rooms"), QStringLiteral("one"), QStringLiteral("1")},
         {QStringLiteral("rooms"), QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("up")},
         {QStringLiteral("room"), QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("1")},
+        {QStringLiteral("profile"), QStringLiteral("1"), QStringLiteral("Paper")},
+        {QStringLiteral("element"), QStringLiteral("1")},
+        {QStringLiteral("compass-profile"), QStringLiteral("1"), QStringLiteral("screen")},
         {QStringLiteral("unknown"), QStringLiteral("1")},
         {},
     };
@@ -205,4 +271,64 @@ TEST_F(Transcript, run_leavesTheRecordsAsTheyStood) {
     const QByteArray before = world.read(QStringLiteral("Rooms.xml"));
     EXPECT_EQ(run({QStringLiteral("rooms"), QStringLiteral("2"), QStringLiteral("1")}).exitCode, 0);
     EXPECT_EQ(world.read(QStringLiteral("Rooms.xml")), before);
+}
+
+TEST_F(Transcript, nineKiReports_areTheCallsOnTheTextOrOnThePane) {
+    const QString date = QStringLiteral("2024-01-15");
+    const QString renovation = NineKiReports::RENOVATION.toString();
+    using Build = std::function<void(ReportSurface & pane, ReportSurface & text)>;
+    const QList<std::pair<QString, Build>> reports = {
+        {QStringLiteral("chart"),
+         [&](auto& pane, auto& text) { NineKiReports::GetNineKiChart(pane, text, date); }},
+        {QStringLiteral("move"),
+         [&](auto& pane, auto& text) {
+             NineKiReports::GetMoveDirections(pane, text, date, NineKiReports::MOVE.toString());
+         }},
+        {QStringLiteral("renovation"),
+         [&](auto& pane, auto& text) { NineKiReports::GetMoveDirections(pane, text, date, renovation); }},
+    };
+    for (const auto& [name, build] : reports) {
+        NullSurface unseen;
+        EXPECT_EQ(run({name, QStringLiteral("1"), date}).lines(),
+                  linesOf([&, &write = build](ReportSurface& vp) { write(unseen, vp); }))
+            << name.toStdString();
+        EXPECT_EQ(run({name, QStringLiteral("1"), date, QStringLiteral("--compass")}).lines(),
+                  linesOf([&, &write = build](ReportSurface& vp) { write(vp, unseen); }))
+            << name.toStdString();
+    }
+}
+
+TEST_F(Transcript, years_countFromTheDayThatIsGiven) {
+    world.clock.setToday(QDate(2024, 2, 29));
+    const QStringList arguments = {QStringLiteral("years"), QStringLiteral("1"),
+                                   QStringLiteral("North/North-East"), QStringLiteral("renovation"),
+                                   QStringLiteral("2024-02-29")};
+    EXPECT_EQ(callsOf(run(arguments), QStringLiteral("Header")).last().first().toString(),
+              QStringLiteral("Years to renovate/redecorate in the area North/North-East"));
+    const auto build = [](ReportSurface& pane, ReportSurface& text) {
+        NineKiReports::GetMoveYears(pane, text, QStringLiteral("North/North-East"),
+                                    NineKiReports::RENOVATION.toString());
+    };
+    NullSurface unseen;
+    EXPECT_EQ(run(arguments + QStringList{QStringLiteral("--compass")}).lines(),
+              linesOf([&](ReportSurface& vp) { build(vp, unseen); }));
+}
+
+TEST_F(Transcript, nineKiReports_badDatesAreTheReportsAffairAndBadWordsTheUsages) {
+    const QList<QJsonArray> boxes =
+        callsOf(run({QStringLiteral("chart"), QStringLiteral("1"), QStringLiteral("soon")}),
+                QStringLiteral("MessageBox"));
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes.first().first().toString(), QStringLiteral("Advise on Nine Ki Chart"));
+    const QStringList years = {QStringLiteral("years"), QStringLiteral("1")};
+    const QList<QStringList> bad = {
+        {QStringLiteral("chart"), QStringLiteral("1"), QStringLiteral("2024-01-15"), QStringLiteral("pane")},
+        {QStringLiteral("move"), QStringLiteral("1"), QStringLiteral("--compass")},
+        years + QStringList{QStringLiteral("Up"), QStringLiteral("move"), QStringLiteral("2024-01-15")},
+        years + QStringList{QStringLiteral("North"), QStringLiteral("rest"), QStringLiteral("2024-01-15")},
+        years + QStringList{QStringLiteral("North"), QStringLiteral("move"), QStringLiteral("today")},
+    };
+    for (const QStringList& arguments : bad) {
+        EXPECT_EQ(run(arguments).exitCode, 2) << arguments.join(u' ').toStdString();
+    }
 }

@@ -54,6 +54,27 @@ TEST(ReportRoutines, InitReport_setsThePageInOrder) {
     EXPECT_EQ(report.spelledCalls(), followedBy(followedBy({R"(ToolTipText(""))"}, baseFont), page));
 }
 
+TEST(ReportRoutines, prepareCompassPane_isInitReportWithoutMarginsInLargeLetters) {
+    RecordedReport report;
+    modRooms::InitReport(report.vp);
+    const Calls page = report.spelledCalls();
+    report.clear();
+    modRooms::prepareCompassPane(report.vp);
+    const Calls pane = {"MarginLeft(0)",   "MarginRight(0)",  "MarginTop(0)", "MarginBottom(0)",
+                        "MarginHeader(0)", "MarginFooter(0)", "FontSize(20)", "FontBold(true)",
+                        "ZoomMode(0)",     "Zoom(38)"};
+    EXPECT_EQ(report.spelledCalls(), followedBy(page, pane));
+}
+
+TEST(ReportRoutines, prepareReportPane_isInitReportAtAFixedZoom) {
+    RecordedReport report;
+    modRooms::InitReport(report.vp);
+    const Calls page = report.spelledCalls();
+    report.clear();
+    modRooms::prepareReportPane(report.vp);
+    EXPECT_EQ(report.spelledCalls(), followedBy(page, {"ZoomMode(0)", "Zoom(78)"}));
+}
+
 TEST(ReportRoutines, PrintHeading_writesAtTheLeftMarginAndResets) {
     RecordedReport report;
     modRooms::PrintHeading(report.vp, QStringLiteral("Heading"), 255);
