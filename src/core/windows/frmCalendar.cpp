@@ -95,13 +95,14 @@ QLayout* frmCalendar::buildMonthAndYear() {
 }
 
 void frmCalendar::connectArrows(UpDown& arrows, void (clsCalendar::*down)(), void (clsCalendar::*up)()) {
-    const auto run = [this](void (clsCalendar::*handler)()) {
-        if (mParent != nullptr) {
-            (mParent->*handler)();
-        }
-    };
-    connect(&arrows, &UpDown::DownClick, this, [run, down] { run(down); });
-    connect(&arrows, &UpDown::UpClick, this, [run, up] { run(up); });
+    connect(&arrows, &UpDown::DownClick, this, [this, down] { tellParent(down); });
+    connect(&arrows, &UpDown::UpClick, this, [this, up] { tellParent(up); });
+}
+
+void frmCalendar::tellParent(void (clsCalendar::*handler)()) {
+    if (mParent != nullptr) {
+        (mParent->*handler)();
+    }
 }
 
 DayGrid* frmCalendar::buildDays() {

@@ -42,6 +42,7 @@ private:
     DayGrid* buildDays();
     QLayout* buildButtons();
     void connectArrows(UpDown& arrows, void (clsCalendar::*down)(), void (clsCalendar::*up)());
+    void tellParent(void (clsCalendar::*handler)());
     void lblDay_Click(qint16 index);
     void cmdOK_Click();
     void cmdCancel_Click();

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr double twipsPerPoint = 20;
+
 /// The line ends as the layout knows them.
 QString withLineSeparators(QString text) {
     text.replace(QStringLiteral("\r\n"), QString(QChar::LineSeparator));
@@ -64,5 +66,16 @@ double LaidText::lineWidth(qint32 line) const {
 
 void LaidText::drawLine(QPainter& painter, qint32 line, QPointF topLeft) const {
     const QTextLine found = layout_.lineAt(line);
-    found.draw(&painter, {topLeft.x(), topLeft.y() + ascent_ - found.ascent()});
+    const double baseline = topLeft.y() + ascent_;
+    found.draw(&painter, {topLeft.x(), baseline - found.ascent()});
+    if (style_.underline) {
+        // The usual share of the letters' size, clear of them: what some faces tell of their own underline
+        // would cut through the letters' feet.
+        constexpr double underlineBelowBaseline = 0.11;
+        constexpr double underlineThickness = 0.06;
+        const double size = style_.points * twipsPerPoint;
+        painter.fillRect(QRectF(topLeft.x() + found.position().x(), baseline + underlineBelowBaseline * size,
+                                found.naturalTextWidth(), underlineThickness * size),
+                         painter.pen().color());
+    }
 }

@@ -41,7 +41,7 @@ QString PageFonts::resolve(const QString& asked) {
 
 const PageFont& PageFonts::font(const TextStyle& style) {
     const int pixels = qRound(style.points * twipsPerPoint);
-    const Key key{style.face, pixels, style.bold, style.italic, style.underline, style.strikethrough};
+    const Key key{style.face, pixels, style.bold, style.italic, style.strikethrough};
     const auto known = fonts_.find(key);
     if (known != fonts_.end()) {
         return known->second;
@@ -51,7 +51,6 @@ const PageFont& PageFonts::font(const TextStyle& style) {
     font.setPixelSize(pixels);
     font.setBold(style.bold);
     font.setItalic(style.italic);
-    font.setUnderline(style.underline);
     font.setStrikeOut(style.strikethrough);
     // Hinting would round the widths to some device's pixels; a page has none.
     font.setHintingPreference(QFont::PreferNoHinting);

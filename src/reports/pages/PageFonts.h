@@ -28,11 +28,11 @@ public:
     /// face itself and for every name that the machine does not know.
     [[nodiscard]] QString resolve(const QString& asked);
 
-    /// The font of a style whose face was resolved.
+    /// The font of a style whose face was resolved. Without the underline, which the text draws itself.
     [[nodiscard]] const PageFont& font(const TextStyle& style);
 
 private:
-    using Key = std::tuple<QString, int, bool, bool, bool, bool>;
+    using Key = std::tuple<QString, int, bool, bool, bool>;
 
     QHash<QString, QString> resolved_;
     std::map<Key, PageFont> fonts_;

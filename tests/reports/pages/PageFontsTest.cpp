@@ -46,12 +46,10 @@ TEST_F(PageFontsTest, font_defaultFace_hasTheMeasuresOfArial) {
 }
 
 TEST_F(PageFontsTest, font_carriesTheStyle) {
-    const QFont font =
-        fonts.font({.face = {}, .points = 12.5, .bold = true, .italic = true, .underline = true}).font;
+    const QFont font = fonts.font({.face = {}, .points = 12.5, .bold = true, .italic = true}).font;
     EXPECT_EQ(font.pixelSize(), 250);
     EXPECT_TRUE(font.bold());
     EXPECT_TRUE(font.italic());
-    EXPECT_TRUE(font.underline());
     EXPECT_FALSE(font.strikeOut());
     EXPECT_TRUE(fonts.font({.face = {}, .strikethrough = true}).font.strikeOut());
 }

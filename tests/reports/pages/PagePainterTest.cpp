@@ -179,6 +179,32 @@ TEST_F(PagePainterTest, textColor_isTheInk) {
 }
 
 // No device measures text anew: a line ends at the same twip, whatever the resolution.
+// Some faces report an underline that cuts through the feet of their letters.
+TEST_F(PagePainterTest, underline_standsClearOfTheLetters) {
+    surface.PageBorder(0);
+    surface.StartDoc();
+    surface.FontSize(14);
+    surface.FontBold(true);
+    surface.FontUnderline(true);
+    surface.Write(QStringLiteral("HHHHH"));
+    surface.EndDoc();
+    constexpr double by = 0.2;
+    const QImage picture = paint(PaintTarget::Paper, by);
+    const auto [left, right] = inkBetween(picture, by, 1440, 1900);
+    QString bands; // of the picture's rows from the top: letters, nothing, a line from end to end
+    for (int y = static_cast<int>(1440 * by); y < static_cast<int>(1900 * by); ++y) {
+        int ink = 0;
+        for (int x = static_cast<int>(left * by); x < static_cast<int>(right * by); ++x) {
+            ink += qGray(picture.pixel(x, y)) < 160 ? 1 : 0;
+        }
+        const QChar band = ink == 0 ? u'-' : ink > (right - left) * by * 0.95 ? u'=' : u'H';
+        if (bands.isEmpty() || bands.back() != band) {
+            bands += band;
+        }
+    }
+    EXPECT_EQ(bands.toStdString(), "-H-=-");
+}
+
 TEST_F(PagePainterTest, linesEndAtTheSamePlaceAtEveryResolution) {
     surface.PageBorder(0);
     surface.StartDoc();
