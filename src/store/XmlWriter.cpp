@@ -94,7 +94,7 @@ public:
 private:
     /// Records are the children of the root's children.
     static constexpr int recordDepth = 2;
-    static constexpr qsizetype pieceSize = 16 * 1024;
+    static constexpr qsizetype pieceSize = qsizetype(16) * 1024;
 
     void markRecord() {
         const qsizetype at = text_.size();
