@@ -29,6 +29,10 @@ protected:
         return recordFile(rows);
     }
 
+    static QByteArray threeRecords() {
+        return fileOf({R"(ID="1" NAME="A")", R"(ID="2" NAME="B")", R"(ID="3" NAME="A")"});
+    }
+
     [[nodiscard]] QString field(const char* name, bool fromResult = false) {
         return store.GetAttribute(QString::fromLatin1(name), fromResult);
     }
