@@ -178,12 +178,13 @@ void writeYears(const QStringList& arguments, ReportSurface& vp) {
         if (!day.today().isValid()) {
             throw Refusal{Refusal::BadArguments, QStringLiteral("\"%1\" is no day.").arg(given.at(3))};
         }
-        const Services before = Global::services();
-        Services services = before;
+        Services services = Global::services();
+        Clock* const systemClock = services.clock;
         services.clock = &day;
         Global::use(services);
         NineKiReports::GetMoveYears(pane, text, direction, mode);
-        Global::use(before);
+        services.clock = systemClock;
+        Global::use(services);
     });
 }
 
