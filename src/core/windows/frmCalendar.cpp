@@ -84,25 +84,23 @@ QLayout* frmCalendar::buildMonthAndYear() {
     udMonth->setNames(tr("Previous month"), tr("Next month"));
     udYear = new UpDown(QStringLiteral("udYear"), lblYear, this);
     udYear->setNames(tr("Previous year"), tr("Next year"));
-    connectArrows(*udMonth, &clsCalendar::DecrementMonth, &clsCalendar::IncrementMonth);
-    connectArrows(*udYear, &clsCalendar::DecrementYear, &clsCalendar::IncrementYear);
+    const auto forward = [this](UpDown* arrows, auto click, auto step) {
+        connect(arrows, click, this, [this, step] {
+            if (mParent != nullptr) {
+                step(*mParent);
+            }
+        });
+    };
+    forward(udMonth, &UpDown::DownClick, [](clsCalendar& calendar) { calendar.DecrementMonth(); });
+    forward(udMonth, &UpDown::UpClick, [](clsCalendar& calendar) { calendar.IncrementMonth(); });
+    forward(udYear, &UpDown::DownClick, [](clsCalendar& calendar) { calendar.DecrementYear(); });
+    forward(udYear, &UpDown::UpClick, [](clsCalendar& calendar) { calendar.IncrementYear(); });
     auto* row = new QHBoxLayout;
     row->setSpacing(edge);
     row->addWidget(udMonth);
     row->addStretch();
     row->addWidget(udYear);
     return row;
-}
-
-void frmCalendar::connectArrows(UpDown& arrows, void (clsCalendar::*down)(), void (clsCalendar::*up)()) {
-    connect(&arrows, &UpDown::DownClick, this, [this, down] { tellParent(down); });
-    connect(&arrows, &UpDown::UpClick, this, [this, up] { tellParent(up); });
-}
-
-void frmCalendar::tellParent(void (clsCalendar::*handler)()) {
-    if (mParent != nullptr) {
-        (mParent->*handler)();
-    }
 }
 
 DayGrid* frmCalendar::buildDays() {
