@@ -31,8 +31,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QSize designSize(1000, 680);
-const QSize smallestSize(800, 560);
+const QSize designSize(1080, 720);
 const QString insertMode = u"INSERT"_s;
 const QString updateMode = u"UPDATE"_s;
 
@@ -58,7 +57,6 @@ frmRoom::frmRoom(QWidget* parent)
     setObjectName(u"frmRoom"_s);
     setWindowTitle(tr("Room"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    setMinimumSize(smallestSize);
     resize(designSize);
 
     vsTop = new TitleBand(this);
@@ -87,7 +85,7 @@ frmRoom::~frmRoom() {
 QWidget* frmRoom::buildFacts() {
     constexpr int group = 16;
     constexpr int between = 8;
-    constexpr int comfortableWidth = 384;
+    constexpr int comfortableWidth = 416;
     auto* facts = new QWidget(this);
     form_ = new RoomForm(facts);
     auto* row = new QHBoxLayout;
@@ -104,12 +102,12 @@ QWidget* frmRoom::buildFacts() {
                           &frmRoom::cmdCancel_Click);
 
     auto* column = new QVBoxLayout(facts);
-    column->setContentsMargins(0, group, 0, group);
+    column->setContentsMargins(0, group, 0, between);
     column->addWidget(form_);
     column->addStretch(1);
     column->addSpacing(group);
     column->addLayout(row);
-    facts->setFixedWidth(qMax(comfortableWidth, facts->sizeHint().width()));
+    facts->setFixedWidth(qMax(comfortableWidth, facts->minimumSizeHint().width()));
     return facts;
 }
 
