@@ -18,17 +18,23 @@ std::unique_ptr<cXMLHandler> loadWithDecimalRepair(const QString& path, const QL
     const QChar foreign = comma ? u'.' : u',';
     const QChar regional = comma ? u',' : u'.';
     bool changed = false;
-    for (bool stands = store->MoveFirst(); stands; stands = store->MoveNext()) {
+    // Nearly every number is sound, and every room's advice reads the whole file: look before copying,
+    // without a step of the cursor a record.
+    pugi::xml_node record = store->MoveFirst() ? store->CurrentNode.node : pugi::xml_node();
+    for (; record; record = record.next_sibling()) {
+        pugi::xml_attribute place; // where the search for the next attribute starts: they stand together
         for (const QByteArray& attribute : attributes) {
-            // Nearly every number is sound, and every room's advice reads the whole file: look before
-            // copying.
-            const char* const stored = store->CurrentNode.node.attribute(attribute.constData()).value();
+            const char* const stored = record.attribute(attribute.constData(), place).value();
             if (std::strchr(stored, foreign.toLatin1()) != nullptr) {
+                store->CurrentNode.node = record;
                 const QString name = QString::fromLatin1(attribute);
                 store->SetAttribute(name, store->GetAttribute(name).replace(foreign, regional));
                 changed = true;
             }
         }
+    }
+    if (store->CurrentNode) {
+        store->MoveLast();
     }
     if (changed) {
         store->SaveDocument();

@@ -52,9 +52,11 @@ const XmlElement& required(const XmlElement& element) {
     return element;
 }
 
-pugi::xpath_node_set selected(const pugi::xml_node& from, const QString& expression) {
+/// What `run` finds with the compiled expression.
+template<typename Run>
+auto searched(const QString& expression, const Run& run) {
     try {
-        return from.select_nodes(expression.toUtf8().constData());
+        return run(pugi::xpath_query(expression.toUtf8().constData()));
     } catch (const pugi::xpath_exception& invalid) {
         throw Failure{static_cast<qint32>(ErrorNumber::InvalidProcedureCall),
                       failure(ErrorNumber::InvalidProcedureCall).description + QStringLiteral(": ") +
@@ -87,12 +89,15 @@ QString textOf(const pugi::xml_attribute& attribute) {
     return QString::fromUtf8(attribute.value());
 }
 
-std::vector<XmlElement> elementsOf(const std::shared_ptr<pugi::xml_document>& tree,
-                                   const pugi::xpath_node_set& nodes) {
+/// All that an expression finds from `start`, in the order of the document.
+std::vector<XmlElement> search(const XmlElement& start, const QString& expression) {
+    const pugi::xml_node from = required(start).node;
+    const auto nodes =
+        searched(expression, [&](const pugi::xpath_query& query) { return query.evaluate_node_set(from); });
     std::vector<XmlElement> elements;
     elements.reserve(nodes.size());
     for (const pugi::xpath_node& each : nodes) {
-        elements.push_back({tree, each.node()});
+        elements.push_back({start.tree, each.node()});
     }
     return elements;
 }
@@ -113,8 +118,7 @@ bool cXMLHandler::LoadDocument(const std::optional<QString>& vFilename) {
         }
         const pugi::xml_node root = Dom->document_element();
         SchemaNode = {Dom, childElement(root, 0)};
-        SchemaAttributes =
-            elementsOf(Dom, selected(required(SchemaNode).node, QStringLiteral("//s:AttributeType")));
+        SchemaAttributes = search(SchemaNode, QStringLiteral("//s:AttributeType"));
         FieldCount = static_cast<qint32>(SchemaAttributes.size());
         DataNode = {Dom, childElement(root, 1)};
         RecordCount = countOfElements(required(DataNode).node);
@@ -144,8 +148,9 @@ bool cXMLHandler::SaveDocument(const std::optional<QString>& vFilename) {
 
 XmlElement cXMLHandler::findFirst(const QString& expression) const {
     const XmlElement& data = required(DataNode);
-    const pugi::xpath_node_set nodes = selected(data.node, expression);
-    return nodes.empty() ? XmlElement() : XmlElement{data.tree, nodes.first().node()};
+    const pugi::xpath_node found =
+        searched(expression, [&](const pugi::xpath_query& query) { return query.evaluate_node(data.node); });
+    return {data.tree, found.node()};
 }
 
 bool cXMLHandler::moveTo(const XmlElement& target) {
@@ -181,7 +186,7 @@ bool cXMLHandler::Query(const QString& sQueryExpression) {
         // The schema element is where the query starts: its expressions begin with "//" and search the whole
         // document from anywhere.
         ResultNode = {Dom, childElement(Dom->document_element(), 0)};
-        ResultSet = elementsOf(Dom, selected(required(ResultNode).node, withDoubleQuotes(sQueryExpression)));
+        ResultSet = search(ResultNode, withDoubleQuotes(sQueryExpression));
         ResultCount = static_cast<qint32>(ResultSet.size());
         result = true;
     });
