@@ -4,9 +4,9 @@
 #include "locations/cLocation.h"
 #include "ui/PaneParts.h"
 #include "ui/ViewFrame.h"
+#include "ui/widgets/RecordList.h"
 #include "ui/widgets/TitleBand.h"
 
-#include <QComboBox>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
@@ -41,7 +41,7 @@ LocationPane::LocationPane(ViewFrame& frame, QWidget* parent)
                                        QStringLiteral(":/talivane/pictures/locations.svg"));
     // The list is at work already; it gets its place on the pane together with the home's other fields.
     cboLocation->hide();
-    connect(cboLocation, &QComboBox::currentIndexChanged, this, &LocationPane::cboLocation_Click);
+    connect(cboLocation, &RecordList::chosen, this, &LocationPane::cboLocation_Click);
 }
 
 void LocationPane::setOpenState(bool open) {

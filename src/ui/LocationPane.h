@@ -7,7 +7,7 @@
 
 #include <optional>
 
-class QComboBox;
+class RecordList;
 class TitleBand;
 class ViewFrame;
 
@@ -42,7 +42,7 @@ private:
 
     ViewFrame& frame_;
     TitleBand* vsTopLocation = nullptr;
-    QComboBox* cboLocation = nullptr;
+    RecordList* cboLocation = nullptr;
     ComboList locations_;
     /// `LocationID` at the moment `NewLocation` ran; what Cancel goes back to.
     qint32 PreviousLocationID = 0;

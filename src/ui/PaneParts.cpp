@@ -2,13 +2,14 @@
 
 #include "core/Conversion.h"
 #include "core/Global.h"
+#include "core/Prompts.h"
 #include "core/clsRegistry.h"
 #include "store/cXMLHandler.h"
 #include "ui/ViewFrame.h"
 #include "ui/platform/ComboList.h"
+#include "ui/widgets/RecordList.h"
 #include "ui/widgets/TitleBand.h"
 
-#include <QComboBox>
 #include <QIcon>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -50,14 +51,12 @@ TitleBand* PaneParts::addBand(QWidget& pane, QVBoxLayout& column, const QString&
     return band;
 }
 
-QComboBox* PaneParts::makeList(QWidget& pane, const QString& name, const QString& accessibleName,
-                               const QString& toolTip) {
-    auto* list = new QComboBox(&pane);
+RecordList* PaneParts::makeList(QWidget& pane, const QString& name, const QString& accessibleName,
+                                const QString& toolTip) {
+    auto* list = new RecordList(&pane);
     list->setObjectName(name);
     list->setAccessibleName(accessibleName);
     list->setToolTip(toolTip);
-    list->setEditable(true);
-    list->setInsertPolicy(QComboBox::NoInsert);
     return list;
 }
 
@@ -78,4 +77,18 @@ void PaneParts::rememberLast(const QString& setting, const QVariant& id) {
     clsRegistry registry;
     registry.SaveSetting(clsRegistry::CurrentUser, Global::settingsSection(QStringLiteral("StartUp")),
                          setting, id);
+}
+
+bool PaneParts::ask(const QString& title, const QString& question) {
+    return Global::service(&Services::prompts)
+               .messageBox(title, question, MessageIcon::Question, MessageButtons::YesNo) ==
+           MessageAnswer::Yes;
+}
+
+void PaneParts::inform(const QString& title, const QString& text) {
+    Global::service(&Services::prompts).messageBox(title, text, MessageIcon::Information, MessageButtons::Ok);
+}
+
+void PaneParts::warn(const QString& title, const QString& text) {
+    Global::service(&Services::prompts).messageBox(title, text, MessageIcon::Exclamation, MessageButtons::Ok);
 }

@@ -4,9 +4,9 @@
 #include <QVariant>
 
 class ComboList;
-class QComboBox;
 class QVBoxLayout;
 class QWidget;
+class RecordList;
 class TitleBand;
 class ViewFrame;
 class cXMLHandler;
@@ -17,9 +17,9 @@ namespace PaneParts {
 /// The title band at the pane's top, over the pane's picture as long as nothing else stands there.
 TitleBand* addBand(QWidget& pane, QVBoxLayout& column, const QString& name, const QString& picture);
 
-/// The list of records. A text can be edited in it; nothing is added to it by typing.
-QComboBox* makeList(QWidget& pane, const QString& name, const QString& accessibleName,
-                    const QString& toolTip);
+/// The list of records, in which the name of the one on show can be edited.
+RecordList* makeList(QWidget& pane, const QString& name, const QString& accessibleName,
+                     const QString& toolTip);
 
 /// Refills a list from all records of a store, in the order of the file, up to the first without a name.
 void fillList(ViewFrame& frame, ComboList& list, cXMLHandler& store, const QString& nameField,
@@ -27,5 +27,14 @@ void fillList(ViewFrame& frame, ComboList& list, cXMLHandler& store, const QStri
 
 /// Stores which record was used last, for the next start.
 void rememberLast(const QString& setting, const QVariant& id);
+
+/// A question with Yes and No; true on Yes.
+[[nodiscard]] bool ask(const QString& title, const QString& question);
+
+/// What the user should know before going on.
+void inform(const QString& title, const QString& text);
+
+/// What did not work.
+void warn(const QString& title, const QString& text);
 
 } // namespace PaneParts

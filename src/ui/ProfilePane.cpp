@@ -1,76 +1,112 @@
 #include "ui/ProfilePane.h"
 
+#include "core/Conversion.h"
 #include "core/Global.h"
+#include "core/windows/frmCalendar.h"
 #include "profiles/cProfile.h"
+#include "store/RecordStore.h"
+#include "ui/CurrentPerson.h"
 #include "ui/PaneParts.h"
+#include "ui/PictureList.h"
+#include "ui/ProfilePanels.h"
 #include "ui/ViewFrame.h"
+#include "ui/widgets/CaptionLabel.h"
 #include "ui/widgets/ColorContrast.h"
+#include "ui/widgets/RecordList.h"
 #include "ui/widgets/TitleBand.h"
 
-#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QScopedValueRollback>
-#include <QVBoxLayout>
+#include <QToolButton>
 
-namespace {
-
-/// The menu entries of a person, and whether the new state offers them.
-struct EntryState {
-    const char* name;
-    bool whenOpen;
-    bool whenNew;
-};
-
-constexpr EntryState entryStates[] = {
-    {"mnuProfilesSave", false, true},   {"mnuProfilesNew", true, false},
-    {"mnuProfilesDelete", true, false}, {"mnuAdviceMoving", true, false},
-    {"mnuAdviceNineKi", true, false},   {"mnuAdviceRenovations", true, false},
-    {"mnuAdviceProfile", true, false},
-};
-
-cProfile& currentProfile() {
-    if (Global::CurrentProfile == nullptr) {
-        throw failure(ErrorNumber::ObjectNotSet);
-    }
-    return *Global::CurrentProfile;
-}
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 ProfilePane::ProfilePane(ViewFrame& frame, QWidget* parent)
     : QWidget(parent)
     , frame_(frame)
-    , cboProfileName(PaneParts::makeList(*this, QStringLiteral("cboProfileName"), tr("Profile"),
-                                         QStringLiteral("Select a Profile from the List")))
-    , profiles_(*cboProfileName) {
-    setObjectName(QStringLiteral("vsMainProfile"));
+    , ui_(*this)
+    , profiles_(*ui_.cboProfileName)
+    , calendar_(frmCalendar::over(this)) {
+    setObjectName(u"vsMainProfile"_s);
     setAccessibleName(tr("Profile"));
-    auto* column = new QVBoxLayout(this);
-    vsTopProfile = PaneParts::addBand(*this, *column, QStringLiteral("vsTopProfile"),
-                                      QStringLiteral(":/talivane/pictures/profiles.svg"));
-    // The list is at work already; it gets its place on the pane together with the person's other fields.
-    cboProfileName->hide();
-    connect(cboProfileName, &QComboBox::currentIndexChanged, this, &ProfilePane::cboProfileName_Click);
+    connectControls();
+}
+
+void ProfilePane::connectControls() {
+    connect(ui_.cboProfileName, &RecordList::chosen, this, &ProfilePane::cboProfileName_Click);
+    connect(ui_.cboProfileName, &RecordList::textTyped, this, &ProfilePane::cboProfileName_Change);
+    connect(ui_.cboProfileName, &RecordList::dropDown, this, &ProfilePane::cboProfileName_DropDown);
+    connect(ui_.txtProfileName, &QLineEdit::textChanged, this, &ProfilePane::txtProfileName_Change);
+    connect(ui_.txtBirthDate, &QLineEdit::textChanged, this, &ProfilePane::txtBirthDate_Change);
+    connect(ui_.txtBirthDate, &QLineEdit::returnPressed, ui_.cmdCalcProfile, &QPushButton::click);
+    connect(ui_.txt9Ki, &QLineEdit::textChanged, this, &ProfilePane::txt9Ki_Change);
+    connect(ui_.cmdDate, &QToolButton::clicked, this, &ProfilePane::cmdDate_Click);
+    connect(ui_.cmdCalcProfile, &QPushButton::clicked, this, &ProfilePane::cmdCalcProfile_Click);
+    connect(ui_.cmdNewProfile, &QPushButton::clicked, this, &ProfilePane::cmdNewProfile_Click);
+    connect(ui_.cmdSaveProfile, &QPushButton::clicked, this, &ProfilePane::cmdSaveProfile_Click);
+    connect(ui_.cmdDelProfile, &QPushButton::clicked, this, &ProfilePane::cmdDelProfile_Click);
+    connect(ui_.optFemale, &QRadioButton::toggled, this, [this](bool on) {
+        if (on) {
+            optFemale_Click();
+        }
+    });
+    connect(ui_.optMale, &QRadioButton::toggled, this, [this](bool on) {
+        if (on) {
+            optMale_Click();
+        }
+    });
+    frame_.connectEntry(u"mnuProfilesNew"_s, [this] { mnuProfilesNew_Click(); });
+    frame_.connectEntry(u"mnuProfilesSave"_s, [this] { mnuProfilesSave_Click(); });
+    frame_.connectEntry(u"mnuProfilesDelete"_s, [this] { mnuProfilesDelete_Click(); });
+    // Deliberately without an effect: the button is the one way to a calculation.
+    frame_.connectEntry(u"mnuProfilesCalcKUA"_s, [] {});
+}
+
+void ProfilePane::enableSave(bool enabled) {
+    if (!enabled && ui_.cmdSaveProfile->hasFocus()) {
+        ui_.cboProfileName->setFocus(); // else the focus would go on to the button that deletes
+    }
+    ui_.cmdSaveProfile->setEnabled(enabled);
+    frame_.setEntryEnabled(u"mnuProfilesSave"_s, enabled);
 }
 
 void ProfilePane::setOpenState(bool open) {
-    for (const EntryState& entry : entryStates) {
-        frame_.setEntryEnabled(QString::fromLatin1(entry.name), open ? entry.whenOpen : entry.whenNew);
+    const bool wasNew = !ui_.txtProfileName->isHidden();
+    ui_.txtProfileName->setVisible(!open);
+    ui_.cboProfileName->setVisible(open);
+    enableSave(!open);
+    ui_.cmdNewProfile->setEnabled(open);
+    ui_.cmdNewProfile->setVisible(open);
+    for (const QString& entry : {u"mnuProfilesNew"_s, u"mnuAdviceMoving"_s, u"mnuAdviceNineKi"_s,
+                                 u"mnuAdviceRenovations"_s, u"mnuAdviceProfile"_s}) {
+        frame_.setEntryEnabled(entry, open);
+    }
+    ui_.cmdDelProfile->setText(open ? u"&Delete"_s : u"Cancel"_s);
+    ui_.cmdDelProfile->setAccessibleName(open ? u"Delete"_s : u"Cancel"_s);
+    ui_.cmdDelProfile->setToolTip(open ? u"Click Delete to delete this Profile"_s
+                                       : u"Click Cancel to abandon the New Profile"_s);
+    frame_.setEntryEnabled(u"mnuProfilesDelete"_s, open);
+    if (open && wasNew) {
+        ui_.cboProfileName->setFocus();
     }
 }
 
 void ProfilePane::NewProfile() {
     routine(u"frmView.New Profile", [this] {
-        PreviousProfileID = currentProfile().PROFILEID;
-        frame_.Mode = QStringLiteral("INSERT");
+        PreviousProfileID = currentPerson().PROFILEID;
+        frame_.Mode = u"INSERT"_s;
         frame_.pressButton(Pane::Profile);
         setOpenState(false);
         ClearScreenProfile();
+        ui_.txtProfileName->setFocus();
     });
 }
 
 void ProfilePane::OpenProfile(const std::optional<QVariant>& ProfileID) {
     routine(u"frmView.Open Profile", [&] {
-        frame_.Mode = QStringLiteral("UPDATE");
+        frame_.Mode = u"UPDATE"_s;
         setOpenState(true);
         ClearScreenProfile();
         if (!ProfileID) {
@@ -80,7 +116,7 @@ void ProfilePane::OpenProfile(const std::optional<QVariant>& ProfileID) {
                 NewProfile();
             }
         } else if (!ProfileID->toString().isEmpty()) {
-            if (currentProfile().GetProfile(*ProfileID)) {
+            if (currentPerson().GetProfile(*ProfileID)) {
                 LoadScreenfromProfile();
             } else {
                 NewProfile();
@@ -93,44 +129,74 @@ void ProfilePane::ClearScreenProfile() {
     routine(u"frmView.ClearScreenProfile", [this] {
         const QScopedValueRollback loading(frame_.Loading, true);
         frame_.setPanel(Pane::Profile, QString());
-        vsTopProfile->setCaption(QString());
-        vsTopProfile->setAccent(std::nullopt);
+        ui_.vsTopProfile->setCaption(QString());
+        ui_.setAccent(std::nullopt);
         profiles_.setListIndex(-1);
-        cboProfileName->clearEditText();
+        ui_.cboProfileName->clearEditText();
+        ui_.txtProfileName->clear();
+        ui_.txtBirthDate->clear();
+        ui_.txt9Ki->clear();
+        ui_.lblAdjBirthYear->setCaption(QString());
+        for (const QStringView name : ProfilePanels::blanked) {
+            PicturePanel& panel = ui_.panel(name);
+            panel.setCaption(QString(), QString());
+            panel.setPicture(QIcon());
+        }
+        ui_.lblSummary().setCaption(QString());
+        ui_.showGender(false, false);
     });
 }
 
 void ProfilePane::LoadScreenfromProfile() {
     routine(u"frmView.LoadScreenfromProfile", [this] {
         const QScopedValueRollback loading(frame_.Loading, true);
-        const cProfile& person = currentProfile();
-        vsTopProfile->setCaption(QStringLiteral("  ") + captionText(person.PROFILENAME));
-        vsTopProfile->setAccent(ColorContrast::fromStored(person.oColor.LIGHTCOLORVALUE));
-        cboProfileName->setEditText(person.PROFILENAME);
+        const cProfile& person = currentPerson();
+        ui_.vsTopProfile->setCaption(u"  "_s + captionText(person.PROFILENAME));
+        ui_.setAccent(ColorContrast::fromStored(person.oColor.LIGHTCOLORVALUE));
+        ui_.cboProfileName->setEditText(person.PROFILENAME);
+        ui_.txtProfileName->setText(person.PROFILENAME);
+        ui_.txtBirthDate->setText(Conversion::shortDate(person.BIRTHDATE));
+        ui_.txt9Ki->setText(QString::number(person.KUANUMBER));
+        ui_.lblAdjBirthYear->setCaption(u"Adjusted Birth Year "_s + QString::number(person.ADJBIRTHYEAR));
+        for (const ProfilePanels::Row& row : ProfilePanels::rows) {
+            showPanel(row, person);
+        }
+        ui_.lblSummary().setCaption(ProfilePanels::summary(person));
+        const bool female = person.GENDER == u"F";
+        ui_.showGender(female, !female);
+    });
+}
+
+void ProfilePane::showPanel(const ProfilePanels::Row& row, const cProfile& person) {
+    const QString value = row.value(person).trimmed();
+    PicturePanel& panel = ui_.panel(row.panel);
+    if (value.isEmpty()) {
+        panel.setCaption(QString(), QString());
+        panel.setPicture(QIcon());
+    } else {
+        panel.setCaption(row.leadIn.toString(), captionText(value));
+        panel.setPicture(ui_.pictures(row.list).picture(value));
+    }
+    if (row.panel == ProfilePanels::elementPanel) {
+        ui_.lblElementDescription().setCaption(ProfilePanels::elementDescription(person.oElement));
+    }
+}
+
+void ProfilePane::LoadProfileFromScreen() {
+    routine(u"frmView.LoadProfileFromScreen", [this] {
+        cProfile& person = currentPerson();
+        person.PROFILENAME =
+            ui_.cboProfileName->isHidden() ? ui_.txtProfileName->text() : ui_.cboProfileName->currentText();
+        person.BIRTHDATE = Conversion::shortDate(QVariant(ui_.txtBirthDate->text()));
+        person.ADJBIRTHYEAR = Global::CalculateAdjustedYear(person.BIRTHDATE);
+        person.KUANUMBER = Conversion::toLong(ui_.txt9Ki->text());
+        person.GENDER = ui_.optFemale->isChecked() ? u"F"_s : u"M"_s;
     });
 }
 
 void ProfilePane::FillProfiles() {
     routine(u"frmView.FillProfiles", [this] {
-        const auto& store = currentProfile().oXMLProfiles;
-        if (store == nullptr) {
-            throw failure(ErrorNumber::ObjectNotSet);
-        }
-        PaneParts::fillList(frame_, profiles_, *store, QStringLiteral("PROFILENAME"),
-                            QStringLiteral("PROFILEID"));
-    });
-}
-
-void ProfilePane::cboProfileName_Click() {
-    routine(u"frmView.cboProfileName_Click", [this] {
-        if (frame_.Filling || profiles_.ListIndex() < 0) {
-            return;
-        }
-        cProfile& person = currentProfile();
-        person.GetProfile(profiles_.ItemData(profiles_.ListIndex()));
-        LoadScreenfromProfile();
-        PaneParts::rememberLast(QStringLiteral("LastProfile"), person.PROFILEID);
-        frame_.setPanel(Pane::Profile, person.PROFILENAME);
-        frame_.setEntryEnabled(QStringLiteral("mnuProfilesSave"), false);
+        PaneParts::fillList(frame_, profiles_, RecordStore::opened(currentPerson().oXMLProfiles),
+                            u"PROFILENAME"_s, u"PROFILEID"_s);
     });
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 /// The toolbar buttons and panes of the main window.
 enum class Pane : quint8 { Profile, Location };
 
@@ -22,6 +24,10 @@ public:
 
     /// Enables a menu entry by its name, or disables it. An entry that has nothing to run stays grey.
     virtual void setEntryEnabled(const QString& name, bool enabled) = 0;
+
+    /// Gives a menu entry something to run, from when on it is no longer grey. An unknown name is passed
+    /// over.
+    virtual void connectEntry(const QString& name, std::function<void()> handler) = 0;
 
     /// Shows a toolbar button pressed and the other one released; the panes do not change.
     virtual void pressButton(Pane pane) = 0;

@@ -198,6 +198,14 @@ void frmView::setEntryEnabled(const QString& name, bool enabled) {
     }
 }
 
+void frmView::connectEntry(const QString& name, std::function<void()> handler) {
+    if (auto* entry = findChild<QAction*>(name); entry != nullptr) {
+        connect(entry, &QAction::triggered, this, std::move(handler));
+        entry->setProperty(connectedEntry, true);
+        entry->setEnabled(true);
+    }
+}
+
 void frmView::pressButton(Pane pane) {
     (pane == Pane::Profile ? profileButton_ : locationButton_)->setChecked(true);
 }

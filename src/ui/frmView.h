@@ -28,6 +28,7 @@ public:
 
     void setPanel(Pane pane, const QString& name) override;
     void setEntryEnabled(const QString& name, bool enabled) override;
+    void connectEntry(const QString& name, std::function<void()> handler) override;
     void pressButton(Pane pane) override;
 
     [[nodiscard]] QSize sizeHint() const override;

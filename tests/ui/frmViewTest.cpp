@@ -427,7 +427,8 @@ TEST_F(frmViewTest, menus_haveTheirCaptionsAndOrder) {
 
 TEST_F(frmViewTest, entriesWithNothingToRun_areGreyInEveryState) {
     const QStringList running =
-        names({"mnuFileExit", "mnuAdviceRooms", "mnuHelpFaqs", "mnuHelpSupport", "mnuAbout"});
+        names({"mnuFileExit", "mnuProfilesNew", "mnuProfilesSave", "mnuProfilesDelete", "mnuProfilesCalcKUA",
+               "mnuAdviceRooms", "mnuHelpFaqs", "mnuHelpSupport", "mnuAbout"});
     const auto expectOnlyThese = [&] {
         for (const QAction* entry :
              view_->findChildren<QAction*>(QRegularExpression(QStringLiteral("^mnu")))) {
@@ -520,11 +521,13 @@ TEST_F(frmViewTest, unknownWindowState_opensMinimized) {
 
 // Reach.
 
-TEST_F(frmViewTest, tab_goesFromTopLeftToBottomRightThroughNamedControls) {
+TEST_F(frmViewTest, tab_goesThroughNamedControlsAndThroughTheToolbarFirst) {
     Global::Main();
-    expectReadingOrder(*view_);
     expectNamedControls(*view_);
-    EXPECT_EQ(tabOrder(*view_).size(), 2U);
+    ASSERT_GE(tabOrder(*view_).size(), 3U);
+    EXPECT_EQ(tabOrder(*view_).at(0)->objectName(), QStringLiteral("PROFILE"));
+    EXPECT_EQ(tabOrder(*view_).at(1)->objectName(), QStringLiteral("LOCATION"));
+    EXPECT_EQ(tabOrder(*view_).at(2)->objectName(), QStringLiteral("cboProfileName"));
 }
 
 TEST_F(frmViewTest, everyNamedPanel_isThere) {

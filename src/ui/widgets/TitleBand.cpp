@@ -3,30 +3,18 @@
 #include "ui/widgets/ColorContrast.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QPainter>
 
 namespace {
 
-/// What a caption looks like: "&&" as an ampersand, the mark of an accelerator not at all.
-QString displayed(const QString& caption) {
-    QString shown;
-    for (qsizetype i = 0; i < caption.size(); ++i) {
-        if (caption.at(i) == u'&') {
-            ++i;
-            if (i == caption.size()) {
-                break;
-            }
-        }
-        shown.append(caption.at(i));
-    }
-    return shown;
-}
+constexpr int windowEdge = 24;
+constexpr int besideWidgets = 8;
 
 } // namespace
 
 TitleBand::TitleBand(QWidget* parent)
     : ElidedLabel(parent) {
-    constexpr int windowEdge = 24;
     setTextMargin(windowEdge);
     setTitleFont();
 }
@@ -45,13 +33,36 @@ void TitleBand::setTitleFont() {
 
 void TitleBand::setCaption(const QString& caption) {
     caption_ = caption;
-    setText(displayed(caption));
+    setText(shownCaption(caption));
     setAccessibleName(text().trimmed());
 }
 
 void TitleBand::setAccent(const std::optional<QColor>& color) {
     accent_ = color;
+    colorWidgets();
     update();
+}
+
+void TitleBand::addWidget(QWidget* widget) {
+    if (layout() == nullptr) {
+        setAttribute(Qt::WA_LayoutOnEntireRect);
+        auto* row = new QHBoxLayout(this);
+        row->setContentsMargins(windowEdge, besideWidgets, windowEdge, besideWidgets);
+        row->addStretch(1);
+    }
+    static_cast<QHBoxLayout*>(layout())->addWidget(widget);
+    const int taken = layout()->minimumSize().width() - windowEdge;
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    setContentsMargins(mirrored ? taken : 0, 0, mirrored ? 0 : taken, 0);
+    colorWidgets();
+}
+
+void TitleBand::colorWidgets() {
+    for (auto* widget : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        QPalette colors = widget->palette();
+        colors.setColor(QPalette::WindowText, textColor());
+        widget->setPalette(colors);
+    }
 }
 
 QColor TitleBand::ground() const {
@@ -64,7 +75,8 @@ QColor TitleBand::textColor() const {
 
 QSize TitleBand::sizeHint() const {
     constexpr int above = 12;
-    return ElidedLabel::sizeHint() + QSize(0, 2 * above);
+    const QSize title = ElidedLabel::sizeHint() + QSize(0, 2 * above);
+    return layout() == nullptr ? title : title.expandedTo(QSize(0, layout()->sizeHint().height()));
 }
 
 void TitleBand::paintEvent(QPaintEvent* event) {
@@ -74,11 +86,8 @@ void TitleBand::paintEvent(QPaintEvent* event) {
 
 void TitleBand::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
+        colorWidgets();
         update();
     }
     ElidedLabel::changeEvent(event);
-}
-
-QString captionText(QString text) {
-    return text.replace(u'&', QStringLiteral("&&"));
 }

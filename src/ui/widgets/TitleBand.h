@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/widgets/Caption.h"
 #include "ui/widgets/ElidedLabel.h"
 
 #include <optional>
@@ -16,6 +17,9 @@ public:
     [[nodiscard]] QString caption() const { return caption_; }
     void setCaption(const QString& caption);
 
+    /// Puts a widget at the band's end; the title stops before it, and its text gets the title's colour.
+    void addWidget(QWidget* widget);
+
     /// The ground's colour; nothing for paper grey.
     void setAccent(const std::optional<QColor>& color);
 
@@ -29,10 +33,8 @@ protected:
 
 private:
     void setTitleFont();
+    void colorWidgets();
 
     QString caption_;
     std::optional<QColor> accent_;
 };
-
-/// A text as part of a caption: every "&" doubled, so that it shows as one and marks no accelerator.
-[[nodiscard]] QString captionText(QString text);

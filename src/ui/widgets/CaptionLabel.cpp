@@ -1,0 +1,16 @@
+#include "ui/widgets/CaptionLabel.h"
+
+#include "ui/widgets/Caption.h"
+
+CaptionLabel::CaptionLabel(const QString& name, QWidget* parent)
+    : QLabel(parent) {
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setAlignment(Qt::AlignTop | Qt::AlignLeading);
+}
+
+void CaptionLabel::setCaption(const QString& caption) {
+    caption_ = caption;
+    setText(shownCaption(caption));
+}
