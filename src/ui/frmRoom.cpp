@@ -240,35 +240,34 @@ void frmRoom::reject() {
     mnuFileClose_Click();
 }
 
-void frmRoom::FillRoomTypes() {
-    routine(u"frmRoom.Fill Room Types", [this] {
+void frmRoom::fill(QStringView label, const std::function<void()>& body) {
+    routine(label, [&] {
         const QScopedValueRollback filling(Filling, true);
+        body();
+    });
+}
+
+void frmRoom::FillRoomTypes() {
+    fill(u"frmRoom.Fill Room Types", [this] {
         room().LoadRoomTypes();
         RoomFields::fillList(*form_->cboRoomType, room().oXMLRoomTypes, u"ROOMTYPE"_s);
     });
 }
 
 void frmRoom::FillFloorTypes() {
-    routine(u"frmRoom.Fill Floor Types", [this] {
-        const QScopedValueRollback filling(Filling, true);
+    fill(u"frmRoom.Fill Floor Types", [this] {
         room().LoadFlooring();
         RoomFields::fillList(*form_->cboFlooring, room().oXMLFloorTypes, u"FLOORTYPE"_s);
     });
 }
 
 void frmRoom::FillLocations() {
-    routine(u"frmRoom.Fill Locations", [this] {
-        const QScopedValueRollback filling(Filling, true);
-        const cDirection directions;
-        RoomFields::fillList(*form_->cboLocation, directions.oXMLDirections, u"DIRECTION"_s);
-    });
+    fill(u"frmRoom.Fill Locations",
+         [this] { RoomFields::fillList(*form_->cboLocation, cDirection().oXMLDirections, u"DIRECTION"_s); });
 }
 
 void frmRoom::FillFloors() {
-    routine(u"frmRoom.Fill Floors", [this] {
-        const QScopedValueRollback filling(Filling, true);
-        RoomFields::fillFloors(*form_->cboFloors);
-    });
+    fill(u"frmRoom.Fill Floors", [this] { RoomFields::fillFloors(*form_->cboFloors); });
 }
 
 void frmRoom::fillLists() {

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 
 class PreviewWidget;
@@ -50,6 +51,7 @@ private:
     void Form_Unload();
     bool showUntilClosed();
 
+    void fill(QStringView label, const std::function<void()>& body);
     void FillRoomTypes();
     void FillFloorTypes();
     void FillFloors();

@@ -115,10 +115,11 @@ void WidgetPlacement::keepOnScreen() {
     }
     const QRect available = home->availableGeometry();
     const QSize size = window_.size().boundedTo(available.size());
-    if (size != window_.size()) {
+    const bool cut = size != window_.size();
+    if (cut) {
         window_.resize(size);
     }
-    if (!reachable) {
+    if (cut || !reachable) {
         window_.move(std::clamp(frame.left(), available.left(), available.right() + 1 - size.width()),
                      std::clamp(frame.top(), available.top(), available.bottom() + 1 - size.height()));
     }

@@ -24,8 +24,8 @@ public:
     [[nodiscard]] double Width() const override;
     void setWidth(double twips) override;
 
-    /// Moves the window back to a screen that exists, and makes it no larger than that screen, when its title
-    /// bar could not be reached where it stands.
+    /// Makes the window no larger than its screen, and moves it wholly onto a screen that exists when it had
+    /// to be cut or its title bar could not be reached where it stands.
     void keepOnScreen();
 
 private:

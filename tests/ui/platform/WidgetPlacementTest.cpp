@@ -134,6 +134,13 @@ TEST_F(WidgetPlacementTest, storedLargerThanTheScreen_fitsTheScreen) {
     EXPECT_EQ(window_.size(), screen().size());
 }
 
+TEST_F(WidgetPlacementTest, neverClosedAndDesignedWiderThanTheScreen_startsAtItsEdge) {
+    window_.resize(screen().width() + 200, screen().height() / 2);
+    restorePlacement(window_);
+    EXPECT_EQ(window_.x(), screen().left());
+    EXPECT_EQ(window_.width(), screen().width());
+}
+
 TEST_F(WidgetPlacementTest, enormousNumber_isNoCrash) {
     store("WindowState", "NORMAL");
     store("Top", "1e300");
