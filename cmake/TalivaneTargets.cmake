@@ -8,6 +8,8 @@ endif()
 if(TALIVANE_SANITIZE)
   target_compile_options(talivane_settings INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                      -fno-omit-frame-pointer)
+  # GCC takes the sanitizers' own checks for uses of values that were never set.
+  target_compile_options(talivane_settings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(talivane_settings INTERFACE -fsanitize=address,undefined)
 endif()
 target_compile_definitions(talivane_settings INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
