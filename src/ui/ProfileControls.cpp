@@ -88,6 +88,10 @@ ProfileControls::ProfileControls(QWidget& pane)
     addDetail(*column);
     addButtons(*column);
     setTabOrder();
+    // Their letters are also those of the menus "File" and "Advice". Were both to act, neither would at the
+    // first press; so the menus have them, as everywhere.
+    optFemale->setShortcut(QKeySequence());
+    cmdCalcProfile->setShortcut(QKeySequence());
 }
 
 void ProfileControls::addBand(QVBoxLayout& column) {
