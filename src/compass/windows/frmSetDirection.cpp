@@ -1,13 +1,78 @@
 #include "compass/windows/frmSetDirection.h"
 
+#include "compass/windows/PlanWidget.h"
 #include "core/Failure.h"
+#include "locations/cLocation.h"
+#include "store/RecordStore.h"
+
+#include <QLabel>
+#include <QPushButton>
 
 frmSetDirection::frmSetDirection(QWidget* parent)
-    : QDialog(parent) {
-    setObjectName(QStringLiteral("frmSetDirection"));
-    setWindowTitle(QStringLiteral("Set Direction"));
+    : CompassWindow(CompassDrawing::View::Home, QStringLiteral("frmSetDirection"),
+                    QStringLiteral("Set Direction"), parent) {
+    auto* lblLocation = new QLabel(
+        QStringLiteral("Click below to indicate the direction of North from the center of the floorplan:"),
+        this);
+    lblLocation->setObjectName(QStringLiteral("lblLocation"));
+    addInstruction(lblLocation);
+    QPushButton* cmdOK = addButton(QStringLiteral("cmdOK"), QStringLiteral("&OK"), tr("OK"));
+    cmdOK->setDefault(true);
+    QPushButton* cmdCancel = addButton(QStringLiteral("cmdCancel"), QStringLiteral("&Cancel"), tr("Cancel"));
+    connect(cmdOK, &QPushButton::clicked, this, &frmSetDirection::cmdOK_Click);
+    connect(cmdCancel, &QPushButton::clicked, this, &frmSetDirection::cmdCancel_Click);
+    connect(picFloorPlan, &PlanWidget::clicked, this, &frmSetDirection::picFloorPlan_MouseUp);
 }
 
 bool frmSetDirection::SetDirection() {
-    return routine(u"frmSetDirection.Set Direction", false, [this](bool& /*result*/) { exec(); });
+    return routine(u"frmSetDirection.Set Direction", false, [this](bool& result) {
+        resultCode_ = ResultCode::Cancel;
+        cLocation& home = currentLocation();
+        Form_Load(home.DESCRIPTION);
+        drawing_.LoadRooms(home.LocationID);
+        const double oldNorth = home.NORTHOFFSET;
+        const double oldX = home.LABLEX;
+        const double oldY = home.LABLEY;
+        drawPlan();
+        exec();
+        if (resultCode_ == ResultCode::Ok) {
+            home.UpdateNorthOffset();
+            RecordStore::opened(home.oXMLRooms).SaveDocument();
+            result = true;
+        } else {
+            home.NORTHOFFSET = oldNorth;
+            home.LABLEX = oldX;
+            home.LABLEY = oldY;
+            home.LoadRooms(); // drops the rooms' directions that were noted in memory
+        }
+        Form_Unload();
+    });
+}
+
+void frmSetDirection::picFloorPlan_MouseUp(double X, double Y) {
+    routine(u"frmSetDirection.picFloorPlan_MouseUp", [&] {
+        PlanPicture& picture = picFloorPlan->picture();
+        picture.Cls();
+        picFloorPlan->update();
+        const double angle = CompassGeometry::pointedAngle(X, Y);
+        cLocation& home = currentLocation();
+        home.NORTHOFFSET = angle;
+        home.LABLEX = X;
+        home.LABLEY = Y;
+        drawing_.DrawCompass(picture, angle, CompassGeometry::PlanPoint{.X = X, .Y = Y});
+        drawing_.DrawRooms(picture);
+    });
+}
+
+void frmSetDirection::cmdOK_Click() {
+    passOver([this] { leave(ResultCode::Ok); });
+}
+
+void frmSetDirection::cmdCancel_Click() {
+    passOver([this] { leave(ResultCode::Cancel); });
+}
+
+void frmSetDirection::leave(ResultCode code) {
+    resultCode_ = code;
+    hide();
 }

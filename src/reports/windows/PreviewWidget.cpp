@@ -2,6 +2,7 @@
 
 #include "reports/pages/PagePainter.h"
 #include "reports/pages/PageSurface.h"
+#include "ui/widgets/PaperShadow.h"
 
 #include <QKeyEvent>
 #include <QLocale>
@@ -15,21 +16,6 @@ namespace {
 
 constexpr int scrollStep = 40;
 constexpr double zoomStep = 10;
-constexpr int shadowReach = 6;
-
-void paintShadow(QPainter& painter, const QRect& paper) {
-    painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setRenderHint(QPainter::Antialiasing);
-    // Faint layers, each a little larger, add up to a soft edge; it falls downwards.
-    constexpr int layerStrength = 9;
-    painter.setBrush(QColor(0, 0, 0, layerStrength));
-    for (int reach = shadowReach; reach > 0; --reach) {
-        const QRect layer = paper.translated(0, 2).adjusted(-reach, -reach, reach, reach);
-        painter.drawRoundedRect(layer, reach, reach);
-    }
-    painter.restore();
-}
 
 void appendText(QStringList& texts, const LaidText* text) {
     if (text != nullptr && !text->text().trimmed().isEmpty()) {
@@ -110,7 +96,7 @@ void PreviewWidget::layOut() {
     space.viewport = maximumViewportSize();
     space.scrollBarExtent = verticalScrollBar()->sizeHint().width();
     space.dotsPerInch = logicalDpiX();
-    space.captionHeight = fontMetrics().height() + shadowReach;
+    space.captionHeight = fontMetrics().height() + paperShadowReach;
     plan_ = planPreview(view, space);
 
     const QSize room(
@@ -162,8 +148,9 @@ void PreviewWidget::paintEvent(QPaintEvent* event) {
     const QRect dirty = event->rect().translated(scrolled());
     painter.translate(-scrolled());
     for (const PagePlace& place : plan_.pages) {
-        const QRect reach = place.area.adjusted(-2 * shadowReach, -2 * shadowReach, 2 * shadowReach,
-                                                2 * shadowReach + fontMetrics().height());
+        const QRect reach =
+            place.area.adjusted(-2 * paperShadowReach, -2 * paperShadowReach, 2 * paperShadowReach,
+                                2 * paperShadowReach + fontMetrics().height());
         if (reach.intersects(dirty)) {
             paintPlace(painter, place);
         }
@@ -176,7 +163,7 @@ void PreviewWidget::paintEvent(QPaintEvent* event) {
 }
 
 void PreviewWidget::paintPlace(QPainter& painter, const PagePlace& place) const {
-    paintShadow(painter, place.area);
+    paintPaperShadow(painter, place.area);
     painter.fillRect(place.area, Qt::white);
     painter.save();
     painter.setClipRect(place.area, Qt::IntersectClip);
@@ -188,7 +175,7 @@ void PreviewWidget::paintPlace(QPainter& painter, const PagePlace& place) const 
 
     const bool chosen = place.page + 1 == surface_.PreviewPage();
     if (mode() == PreviewMode::Thumbnails) {
-        const QRect caption(place.area.left(), place.area.bottom() + shadowReach, place.area.width(),
+        const QRect caption(place.area.left(), place.area.bottom() + paperShadowReach, place.area.width(),
                             fontMetrics().height());
         QFont font = painter.font();
         font.setBold(chosen);
