@@ -10,6 +10,7 @@
 #include "reports/surface/NullSurface.h"
 #include "reports/surface/ReportRoutines.h"
 #include "reports/surface/ReportSurface.h"
+#include "transcript/PlanFigures.h"
 
 #include <memory>
 #include <optional>
@@ -72,14 +73,6 @@ void writeCompass(const Record& record, ReportSurface& vp) {
     vp.StartDoc();
     record.DrawCompass(vp, centre, centre);
     vp.EndDoc();
-}
-
-void chooseLocation(const QString& argument) {
-    Global::CurrentLocation = std::make_unique<cLocation>();
-    Global::CurrentLocation->LoadLocations();
-    Global::CurrentLocation->LoadFloors();
-    Global::CurrentLocation->LoadRooms();
-    require(Global::CurrentLocation->GetLocation(id(argument)), QStringLiteral("location"), argument);
 }
 
 void writeRooms(const QStringList& arguments, ReportSurface& vp) {
@@ -190,6 +183,14 @@ void writeYears(const QStringList& arguments, ReportSurface& vp) {
 
 } // namespace
 
+void chooseLocation(const QString& argument) {
+    Global::CurrentLocation = std::make_unique<cLocation>();
+    Global::CurrentLocation->LoadLocations();
+    Global::CurrentLocation->LoadFloors();
+    Global::CurrentLocation->LoadRooms();
+    require(Global::CurrentLocation->GetLocation(id(argument)), QStringLiteral("location"), argument);
+}
+
 const std::vector<TranscriptReport>& transcriptReports() {
     static const std::vector<TranscriptReport> reports = {
         {QStringLiteral("rooms"), QStringLiteral("PROFILEID LOCATIONID [FLOORID]"), 2, 3, writeRooms},
@@ -205,6 +206,10 @@ const std::vector<TranscriptReport>& transcriptReports() {
          writeDirections<renovationMode>},
         {QStringLiteral("years"), QStringLiteral("PROFILEID DIRECTION move|renovation TODAY [--compass]"), 4,
          5, writeYears},
+        {QStringLiteral("sectors"), QStringLiteral("NORTHOFFSET"), 1, 1, nullptr, PlanFigures::sectors},
+        {QStringLiteral("angle"), QStringLiteral("X Y"), 2, 2, nullptr, PlanFigures::angle},
+        {QStringLiteral("north"), QStringLiteral("X Y"), 2, 2, nullptr, PlanFigures::north},
+        {QStringLiteral("place"), QStringLiteral("LOCATIONID"), 1, 1, nullptr, PlanFigures::place},
     };
     return reports;
 }

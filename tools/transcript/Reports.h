@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayList>
 #include <QString>
 #include <QStringList>
 
@@ -24,6 +25,12 @@ struct TranscriptReport {
     qsizetype mostArguments = 0;
     /// Chooses the current person and home by the arguments and runs the builder. Throws a Refusal.
     void (*write)(const QStringList& arguments, ReportSurface& vp) = nullptr;
+    /// In place of a report: figures that are worked out, as lines of JSON. Throws a Refusal.
+    QByteArrayList (*figures)(const QStringList& arguments) = nullptr;
 };
 
 [[nodiscard]] const std::vector<TranscriptReport>& transcriptReports();
+
+/// Loads the record files and makes the home with that id the current one. Throws a Refusal for an unknown
+/// one.
+void chooseLocation(const QString& argument);

@@ -34,7 +34,7 @@ QString usage() {
     QString text =
         QStringLiteral("usage: talivane_transcript DATA_DIR REPORT ARGUMENTS...\n"
                        "Runs a report over the record files of a folder and prints each call on its page\n"
-                       "surface as one JSON object a line. Reports:");
+                       "surface as one JSON object a line; the last four print figures of a plan. Reports:");
     for (const TranscriptReport& report : transcriptReports()) {
         text += QStringLiteral("\n  %1 %2").arg(report.name, report.parameters);
     }
@@ -79,6 +79,12 @@ void run(const QStringList& words) {
     Global::use(services);
     Global::RegionalDecimal = Global::GetRegionalSetting(22); // as at the program's start
 
+    if (report.figures != nullptr) {
+        for (const QByteArray& line : report.figures(arguments)) {
+            printLine(stdout, line);
+        }
+        return;
+    }
     PageSurface pages;
     RecordingSurface vp(pages, printCall);
     report.write(arguments, vp);
