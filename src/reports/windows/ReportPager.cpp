@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 
 #include <array>
 
@@ -146,7 +147,8 @@ void ReportPager::saveAsHtml(const std::function<void()>& write) {
                                                             "save the report to."),
                                              Global::dataFolder() + QStringLiteral("Temp.html"));
         surface_.ExportFile(answer);
+        // A document that cannot be written must not keep the next ones from being shown.
+        const auto noFile = qScopeGuard([this] { surface_.ExportFile(QString()); });
         write();
-        surface_.ExportFile(QString());
     });
 }

@@ -64,7 +64,11 @@ ReportStrip::ReportStrip(const QString& pageLabel, QWidget* parent)
     row->addLayout(buttons_);
 }
 
-void ReportStrip::addButton(QPushButton* button) {
+QPushButton* ReportStrip::addButton(const QString& name, const QString& caption) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setAccessibleName(QString(caption).remove(u'&'));
+    button->setAutoDefault(false);
     // The buttons of a row share the width of the widest.
     int width = button->sizeHint().width();
     for (int i = 0; i < buttons_->count(); ++i) {
@@ -74,4 +78,5 @@ void ReportStrip::addButton(QPushButton* button) {
     for (int i = 0; i < buttons_->count(); ++i) {
         buttons_->itemAt(i)->widget()->setMinimumWidth(width);
     }
+    return button;
 }

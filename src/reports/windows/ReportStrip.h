@@ -15,8 +15,8 @@ public:
     /// `pageLabel` is the page label's text before there is a document.
     explicit ReportStrip(const QString& pageLabel, QWidget* parent = nullptr);
 
-    /// Adds a button of the window at the right end.
-    void addButton(QPushButton* button);
+    /// Adds a button of the window at the right end. Enter does not press it, unless it is made the default.
+    QPushButton* addButton(const QString& name, const QString& caption);
 
     QPushButton* cmdMinus = nullptr;
     QPushButton* cmdPlus = nullptr;

@@ -5,14 +5,13 @@
 #include "profiles/cProfile.h"
 #include "reports/surface/ReportRoutines.h"
 #include "reports/windows/PreviewWidget.h"
+#include "reports/windows/ReportMenu.h"
 #include "reports/windows/ReportStrip.h"
 #include "ui/platform/WaitPointer.h"
 #include "ui/platform/WidgetPlacement.h"
 #include "ui/widgets/ColorContrast.h"
 #include "ui/widgets/TitleBand.h"
 
-#include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -68,18 +67,11 @@ void frmPrintPreview::buildControls() {
     vpPrintPreview->setFrameShape(QFrame::NoFrame);
     strip_ = new ReportStrip(QStringLiteral("Page 0 of 0"), this);
 
-    auto* cmdPrint = new QPushButton(QStringLiteral("&Print"), this);
-    cmdPrint->setObjectName(QStringLiteral("cmdPrint"));
-    cmdPrint->setAccessibleName(tr("Print"));
-    cmdPrint->setAutoDefault(false);
+    QPushButton* cmdPrint = strip_->addButton(QStringLiteral("cmdPrint"), QStringLiteral("&Print"));
     connect(cmdPrint, &QPushButton::clicked, this, &frmPrintPreview::cmdPrint_Click);
-    auto* cmdOK = new QPushButton(QStringLiteral("&OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    cmdOK->setAccessibleName(tr("OK"));
+    QPushButton* cmdOK = strip_->addButton(QStringLiteral("cmdOK"), QStringLiteral("&OK"));
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &frmPrintPreview::cmdOK_Click);
-    strip_->addButton(cmdPrint);
-    strip_->addButton(cmdOK);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -101,19 +93,10 @@ void frmPrintPreview::buildControls() {
 }
 
 void frmPrintPreview::buildMenu() {
-    auto* bar = new QMenuBar(this);
-    QMenu* mnuFile = bar->addMenu(QStringLiteral("&File"));
-    mnuFile->setObjectName(QStringLiteral("mnuFile"));
-    const auto add = [&](const QString& name, const QString& caption, void (frmPrintPreview::*handler)()) {
-        QAction* entry = mnuFile->addAction(caption, this, handler);
-        entry->setObjectName(name);
-    };
-    add(QStringLiteral("mnuFilePrint"), QStringLiteral("&Print"), &frmPrintPreview::mnuFilePrint_Click);
-    add(QStringLiteral("mnuFileSaveAs"), QStringLiteral("&Save as HTML"),
-        &frmPrintPreview::mnuFileSaveAs_Click);
-    mnuFile->addSeparator()->setObjectName(QStringLiteral("mnuFileSep1"));
-    add(QStringLiteral("mnuFileExit"), QStringLiteral("&Close"), &frmPrintPreview::mnuFileExit_Click);
-    layout()->setMenuBar(bar);
+    addReportMenu(*this, QStringLiteral("mnuFileExit"),
+                  {.print = [this] { mnuFilePrint_Click(); },
+                   .saveAs = [this] { mnuFileSaveAs_Click(); },
+                   .close = [this] { mnuFileExit_Click(); }});
 }
 
 void frmPrintPreview::Form_Load() {

@@ -228,6 +228,15 @@ TEST_F(ReportPagerTest, saveAsHtml_cancelled_writesAnewWithoutAFile) {
     EXPECT_EQ(written, 1);
 }
 
+TEST_F(ReportPagerTest, saveAsHtml_thatFails_isReportedAndKeepsNoFileForTheNextDocument) {
+    world_.prompts.expectInput(saveTitle_, savePrompt_,
+                               world_.folder() + QDir::separator() + QStringLiteral("Temp.html"),
+                               QStringLiteral("/somewhere/report.html"));
+    world_.prompts.expectError(labels_.saveAs, 76, QStringLiteral("Path not found"));
+    pager_.saveAsHtml([] { throw failure(ErrorNumber::PathNotFound); });
+    EXPECT_EQ(surface_.property(SurfaceProperty::ExportFile).toString(), QString());
+}
+
 TEST_F(ReportPagerTest, failures_areReportedUnderTheWindowsLabels) {
     const QString description = QStringLiteral("Object variable or With block variable not set");
     strip_.cmdNext->setEnabled(true);
