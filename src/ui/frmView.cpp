@@ -2,7 +2,10 @@
 
 #include "core/Global.h"
 #include "locations/cLocation.h"
+#include "nineki/windows/frmNineKi.h"
 #include "profiles/cProfile.h"
+#include "profiles/windows/frmElements.h"
+#include "profiles/windows/frmProfiles.h"
 #include "reports/windows/frmPrintPreview.h"
 #include "ui/HelpLinks.h"
 #include "ui/LocationPane.h"
@@ -96,12 +99,12 @@ void frmView::buildMenus() {
                               {"mnuLocationsNewRoom", "New Room..."},
                               {"mnuLocationsDeleteRoom", "Delete Room"}});
     buildMenu(QStringLiteral("mnuAdvice"), QStringLiteral("&Advice"),
-              {{"mnuAdviceMoving", "On &Moving..."},
-               {"mnuAdviceRenovations", "On Re&novations..."},
-               {"mnuAdviceNineKi", "On Nine &Ki Chart..."},
+              {{"mnuAdviceMoving", "On &Moving...", &frmView::mnuAdviceMoving_Click},
+               {"mnuAdviceRenovations", "On Re&novations...", &frmView::mnuAdviceRenovations_Click},
+               {"mnuAdviceNineKi", "On Nine &Ki Chart...", &frmView::mnuAdviceNineKi_Click},
                {"mnuAdviceRooms", "On &Rooms...", &frmView::mnuAdviceRooms_Click},
-               {"mnuAdviceElement", "On &Elements..."},
-               {"mnuAdviceProfile", "On &Profiles..."}});
+               {"mnuAdviceElement", "On &Elements...", &frmView::mnuAdviceElement_Click},
+               {"mnuAdviceProfile", "On &Profiles...", &frmView::mnuAdviceProfile_Click}});
     buildMenu(QStringLiteral("mnuHelp"), QStringLiteral("&Help"),
               {{"mnuHelpFaqs", "&FAQs", &frmView::mnuHelpFaqs_Click},
                {"mnuHelpSupport", "&Support", &frmView::mnuHelpSupport_Click},
@@ -321,6 +324,26 @@ void frmView::showPane(Pane pane) {
 
 void frmView::mnuFileExit_Click() {
     passOver([this] { close(); });
+}
+
+void frmView::mnuAdviceMoving_Click() {
+    passOver([this] { frmNineKi(this).AdviseMove(); });
+}
+
+void frmView::mnuAdviceRenovations_Click() {
+    passOver([this] { frmNineKi(this).AdviseRenovation(); });
+}
+
+void frmView::mnuAdviceNineKi_Click() {
+    passOver([this] { frmNineKi(this).AdviseYearlyChart(); });
+}
+
+void frmView::mnuAdviceElement_Click() {
+    passOver([this] { frmElements(this).ShowModal(); });
+}
+
+void frmView::mnuAdviceProfile_Click() {
+    passOver([this] { frmProfiles(this).ShowModal(); });
 }
 
 void frmView::mnuAdviceRooms_Click() {

@@ -55,7 +55,12 @@ private:
     void switchToLocation();
     void showPane(Pane pane);
     void mnuFileExit_Click();
+    void mnuAdviceMoving_Click();
+    void mnuAdviceRenovations_Click();
+    void mnuAdviceNineKi_Click();
     void mnuAdviceRooms_Click();
+    void mnuAdviceElement_Click();
+    void mnuAdviceProfile_Click();
     void mnuHelpFaqs_Click();
     void mnuHelpSupport_Click();
     void mnuAbout_Click();

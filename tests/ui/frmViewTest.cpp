@@ -428,7 +428,8 @@ TEST_F(frmViewTest, menus_haveTheirCaptionsAndOrder) {
 TEST_F(frmViewTest, entriesWithNothingToRun_areGreyInEveryState) {
     const QStringList running =
         names({"mnuFileExit", "mnuProfilesNew", "mnuProfilesSave", "mnuProfilesDelete", "mnuProfilesCalcKUA",
-               "mnuAdviceRooms", "mnuHelpFaqs", "mnuHelpSupport", "mnuAbout"});
+               "mnuAdviceMoving", "mnuAdviceRenovations", "mnuAdviceNineKi", "mnuAdviceRooms",
+               "mnuAdviceElement", "mnuAdviceProfile", "mnuHelpFaqs", "mnuHelpSupport", "mnuAbout"});
     const auto expectOnlyThese = [&] {
         for (const QAction* entry :
              view_->findChildren<QAction*>(QRegularExpression(QStringLiteral("^mnu")))) {
@@ -462,6 +463,34 @@ TEST_F(frmViewTest, mnuAdviceRooms_opensTheReportOfTheWholeHome) {
                    EXPECT_EQ(window.parentWidget()->objectName(), QStringLiteral("frmView"));
                });
     EXPECT_TRUE(view_->isVisible());
+}
+
+TEST_F(frmViewTest, adviceEntries_openTheirWindowsForTheCurrentPerson) {
+    Global::Main();
+    const auto opens = [&](const char* entry, const char* name, const char* caption) {
+        whileModal([&] { choose(*view_, "mnuAdvice", entry); },
+                   [&](QWidget& window) {
+                       EXPECT_EQ(window.objectName(), QString::fromLatin1(name));
+                       EXPECT_EQ(window.windowTitle(), QString::fromLatin1(caption));
+                       EXPECT_EQ(window.parentWidget(), view_.get());
+                       EXPECT_TRUE(window.isModal());
+                   });
+    };
+    opens("mnuAdviceMoving", "frmNineKi", "Moving Advice");
+    opens("mnuAdviceRenovations", "frmNineKi", "Renovation/Redecoration Advice");
+    opens("mnuAdviceNineKi", "frmNineKi", "Nine Ki Year Charts");
+    opens("mnuAdviceElement", "frmElements", "Elements");
+    opens("mnuAdviceProfile", "frmProfiles", "Profiles");
+}
+
+TEST_F(frmViewTest, adviceEntries_withoutAStoredPerson_onlyElementsOpen) {
+    startEmpty();
+    EXPECT_FALSE(enabled("mnuAdviceMoving"));
+    EXPECT_FALSE(enabled("mnuAdviceRenovations"));
+    EXPECT_FALSE(enabled("mnuAdviceNineKi"));
+    EXPECT_FALSE(enabled("mnuAdviceProfile"));
+    whileModal([&] { choose(*view_, "mnuAdvice", "mnuAdviceElement"); },
+               [](QWidget& window) { EXPECT_EQ(window.objectName(), QStringLiteral("frmElements")); });
 }
 
 TEST_F(frmViewTest, mnuAdviceRooms_withoutAnyHome_showsAnEmptyReport) {
