@@ -22,17 +22,27 @@ double degrees(float radians) {
     return static_cast<double>(radians) * 180 / std::numbers::pi;
 }
 
-/// Paints the items of one picture in their order.
+enum class Layer { Shapes, Names, Letters };
+
+Layer layerOf(const PlanItem& item) {
+    const auto* text = std::get_if<PlanText>(&item);
+    if (text == nullptr) {
+        return Layer::Shapes;
+    }
+    return text->bold ? Layer::Letters : Layer::Names;
+}
+
+/// Paints single items of a picture.
 class ItemPainter {
 public:
     ItemPainter(QPainter& painter, const QRectF& area, const PlanPens& pens)
         : painter_(painter)
         , area_(area)
         , pens_(pens) {
-        paint(PlanScale());
+        setScale({});
     }
 
-    void paint(const PlanScale& scale) {
+    void setScale(const PlanScale& scale) {
         const auto width = static_cast<double>(scale.ScaleWidth);
         const auto height = static_cast<double>(scale.ScaleHeight);
         isVisible_ = width > 0 && height > 0;
@@ -44,6 +54,9 @@ public:
                   QPointF(static_cast<double>(scale.ScaleLeft), static_cast<double>(scale.ScaleTop)) *
                       unitsPerInch_;
     }
+
+    /// A scale is nothing to be seen.
+    void paint(const PlanScale& /*scale*/) {}
 
     void paint(const PlanLine& line) {
         painter_.setPen(QPen(ink, pens_.lineWidth));
@@ -144,10 +157,15 @@ void paintPlan(QPainter& painter, const PlanPicture& picture, const QRectF& area
     painter.save();
     painter.setClipRect(area, Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing);
-    ItemPainter items(painter, area, pens);
-    for (const PlanItem& item : picture.items()) {
-        if (items.isVisible() || std::holds_alternative<PlanScale>(item)) {
-            std::visit([&](const auto& drawn) { items.paint(drawn); }, item);
+    // Names stand above all walls, and the few bold letters of the compass above all names.
+    for (const Layer layer : {Layer::Shapes, Layer::Names, Layer::Letters}) {
+        ItemPainter items(painter, area, pens);
+        for (const PlanItem& item : picture.items()) {
+            if (const auto* scale = std::get_if<PlanScale>(&item)) {
+                items.setScale(*scale);
+            } else if (items.isVisible() && layerOf(item) == layer) {
+                std::visit([&](const auto& drawn) { items.paint(drawn); }, item);
+            }
         }
     }
     painter.restore();
