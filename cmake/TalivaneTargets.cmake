@@ -12,6 +12,9 @@ if(TALIVANE_SANITIZE)
   target_compile_options(talivane_settings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(talivane_settings INTERFACE -fsanitize=address,undefined)
 endif()
+if(TALIVANE_FUZZ)
+  target_compile_options(talivane_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 target_compile_definitions(talivane_settings INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
                                                        QT_NO_KEYWORDS)
 
