@@ -210,7 +210,10 @@ void CompassDrawing::drawRoom(PlanSurface& surface, cXMLHandler& rooms) const {
     surface.CurrentX = left + textInset;
     surface.CurrentY = top + textInset;
     // Alone on its plan a room tells its whole name; among others it keeps to its own walls.
-    const float space = view_ == View::Room ? 0 : std::max(right - surface.CurrentX, tiny);
+    PlanSpace space;
+    if (view_ == View::Home) {
+        space = {.width = std::max(right - surface.CurrentX, tiny), .height = bottom - surface.CurrentY};
+    }
     surface.Print(rooms.GetAttribute(u"DESCRIPTION"_s, true), space);
 }
 

@@ -32,6 +32,6 @@ void PlanPicture::Circle(float x, float y, float radius, qint32 color, float sta
     items_.emplace_back(arc);
 }
 
-void PlanPicture::Print(const QString& text, float width) {
-    items_.emplace_back(PlanText{CurrentX, CurrentY, text, width, FontSize, FontBold});
+void PlanPicture::Print(const QString& text, const PlanSpace& space) {
+    items_.emplace_back(PlanText{CurrentX, CurrentY, text, space, FontSize, FontBold});
 }

@@ -40,8 +40,7 @@ struct PlanText {
     float x = 0;
     float y = 0;
     QString text;
-    /// In inches; 0 for any.
-    float width = 0;
+    PlanSpace space;
     float fontSize = 0;
     bool bold = false;
 
@@ -62,7 +61,7 @@ public:
     void Circle(float x, float y, float radius) override;
     void Circle(float x, float y, float radius, qint32 color, float start, float end) override;
     using PlanSurface::Print;
-    void Print(const QString& text, float width) override;
+    void Print(const QString& text, const PlanSpace& space) override;
 
 private:
     std::vector<PlanItem> items_;

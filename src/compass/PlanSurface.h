@@ -17,6 +17,14 @@ struct PlanScale {
     bool operator==(const PlanScale&) const = default;
 };
 
+/// The space that a text must keep to, in inches; a width of 0 is any.
+struct PlanSpace {
+    float width = 0;
+    float height = 0;
+
+    bool operator==(const PlanSpace&) const = default;
+};
+
 /// What a plan and its compass are drawn on: the screen, the printer, or a test. Colours are stored colour
 /// values, red in the lowest byte; angles are mathematical radians, counter-clockwise from the right.
 class PlanSurface {
@@ -46,10 +54,10 @@ public:
     /// An arc. An angle below 0 stands for its positive value with a line from there to the centre; when
     /// both are, the slice is closed and filled by `FillStyle` and `FillColor`.
     virtual void Circle(float x, float y, float radius, qint32 color, float start, float end) = 0;
-    /// Writes a line of text from the current point on. It is cut with an ellipsis where it would be wider
-    /// than `width` inches; 0 leaves it whole.
-    virtual void Print(const QString& text, float width) = 0;
-    void Print(const QString& text) { Print(text, 0); }
+    /// Writes a text from the current point on. Where it is too wide for its space it goes on in further
+    /// lines, and is cut with an ellipsis where these are too many.
+    virtual void Print(const QString& text, const PlanSpace& space) = 0;
+    void Print(const QString& text) { Print(text, {}); }
 
 private:
     PlanScale scale_;

@@ -148,7 +148,7 @@ TEST_F(CompassDrawingTest, home_lettersTurnTheClickedPointAboutTheCentre) {
     house_.LoadRooms(1);
     house_.DrawCompass(picture_, 30, PlanPoint{50, -80});
     const auto at = [](float x, float y, const QString& letter) {
-        return PlanText{x, y, letter, 0, 0, true};
+        return PlanText{x, y, letter, {}, 0, true};
     };
     EXPECT_EQ(itemsOf<PlanText>(picture_),
               (std::vector{at(50, -80, QStringLiteral("N")), at(-50, 80, QStringLiteral("S")),
@@ -191,14 +191,14 @@ TEST_F(CompassDrawingTest, rooms_areFourLinesAndTheirName) {
     EXPECT_EQ(lines[2], (PlanLine{30, 20, -30, 20}));
     EXPECT_EQ(lines[3], (PlanLine{-30, 20, -30, -20}));
     EXPECT_EQ(itemsOf<PlanText>(picture_),
-              (std::vector{PlanText{-20, -10, QStringLiteral("Room 1"), 0, 0, false}}));
+              (std::vector{PlanText{-20, -10, QStringLiteral("Room 1"), {}, 0, false}}));
 }
 
 TEST_F(CompassDrawingTest, home_nameIsKeptInsideItsRoom) {
     openFourRooms();
     house_.LoadRooms(1);
     house_.DrawRooms(picture_);
-    EXPECT_EQ(textOf(picture_, QStringLiteral("Room 1")).value().width, 110);
+    EXPECT_EQ(textOf(picture_, QStringLiteral("Room 1")).value().space, (PlanSpace{110, 110}));
 }
 
 TEST_F(CompassDrawingTest, centre_isMarkedAfterTheRooms) {
@@ -225,7 +225,7 @@ TEST_F(CompassDrawingTest, print_outlinesAreBlackAndNothingIsFilled) {
         EXPECT_EQ(arc.fill, std::nullopt);
         EXPECT_EQ(arc.color, 0);
     }
-    EXPECT_EQ(textOf(picture_, QStringLiteral("E")), (PlanText{20, 10, QStringLiteral("E"), 0, 0, true}));
+    EXPECT_EQ(textOf(picture_, QStringLiteral("E")), (PlanText{20, 10, QStringLiteral("E"), {}, 0, true}));
 }
 
 TEST_F(CompassDrawingTest, print_inColour_looksAsOnTheScreen) {

@@ -16,14 +16,14 @@ TEST(PlanPicture, keepsWhatIsDrawnInItsOrder) {
     picture.FontSize = 24;
     picture.FontBold = true;
     picture.Print(QStringLiteral("Elm Street"));
-    picture.Print(QStringLiteral("Kitchen"), 60);
+    picture.Print(QStringLiteral("Kitchen"), {60, 20});
     const std::vector<PlanItem> expected = {
         PlanScale{-10, -20, 30, 40},
         PlanLine{1, 2, 3, 4},
         PlanArc{.x = 0, .y = 0, .radius = 5, .color = 0, .span = {}, .fill = 255},
         PlanArc{.x = 0, .y = 0, .radius = 10, .color = 0, .span = {}, .fill = {}},
-        PlanText{7, 8, QStringLiteral("Elm Street"), 0, 24, true},
-        PlanText{7, 8, QStringLiteral("Kitchen"), 60, 24, true},
+        PlanText{7, 8, QStringLiteral("Elm Street"), {}, 24, true},
+        PlanText{7, 8, QStringLiteral("Kitchen"), {60, 20}, 24, true},
     };
     EXPECT_EQ(picture.items(), expected);
 }

@@ -1,4 +1,6 @@
 #include "app/Startup.h"
+#include "compass/windows/frmRoomDirection.h"
+#include "compass/windows/frmSetDirection.h"
 #include "core/Global.h"
 #include "core/clsRegistry.h"
 #include "locations/cLocation.h"
@@ -80,6 +82,14 @@ void grabModal(const std::function<void()>& open, const QString& path) {
     open();
 }
 
+/// The compass over the sample home's first floor, and over its dining room, which three directions share.
+void grabCompassViews(const QString& homePath, const QString& roomPath) {
+    constexpr qint32 diningRoom = 2;
+    Global::CurrentFloorID = 1;
+    grabModal([] { frmSetDirection().SetDirection(); }, homePath);
+    grabModal([] { frmRoomDirection().ShowDirection(QStringLiteral("Dining Room"), diningRoom); }, roomPath);
+}
+
 void grabWindows(frmView& mainWindow, const QString& folder, const QString& suffix) {
     const auto path = [&](const QString& name) {
         return folder + u'/' + name + suffix + QStringLiteral(".png");
@@ -88,6 +98,7 @@ void grabWindows(frmView& mainWindow, const QString& folder, const QString& suff
     save(mainWindow.grab().toImage(), path(QStringLiteral("main-window")));
     grabModal([&] { mainWindow.findChild<QAction*>(QStringLiteral("mnuAdviceRooms"))->trigger(); },
               path(QStringLiteral("room-report")));
+    grabCompassViews(path(QStringLiteral("set-direction")), path(QStringLiteral("room-direction")));
 }
 
 /// The first page of the home's report as it comes out of the printer, at 96 dots to the inch.

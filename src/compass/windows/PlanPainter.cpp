@@ -90,21 +90,11 @@ public:
         }
         font.setBold(text.bold);
         const QFontMetricsF metrics(font, painter_.device());
-        const QString shown = text.width > 0
-                                  ? metrics.elidedText(text.text, Qt::ElideRight,
-                                                       static_cast<double>(text.width) * unitsPerInch_)
-                                  : text.text;
-        const double ascent = metrics.ascent();
-        // A rim of paper keeps a text legible where walls or another text cross it.
-        QPainterPath outline;
-        outline.addText(point + QPointF(0, ascent), font, shown);
-        constexpr int rimStrength = 190;
-        constexpr double rimWidth = 3;
-        painter_.strokePath(outline, QPen(QColor(255, 255, 255, rimStrength), rimWidth * pens_.lineWidth,
-                                          Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter_.setFont(font);
-        painter_.setPen(ink);
-        painter_.drawText(point + QPointF(0, ascent), shown);
+        QPointF baseline = point + QPointF(0, metrics.ascent());
+        for (const QString& line : linesOf(text, metrics)) {
+            paintLine(line, baseline, font);
+            baseline.ry() += metrics.lineSpacing();
+        }
     }
 
     /// Whether what is painted now has an extent.
@@ -115,6 +105,42 @@ private:
         const QPointF point =
             origin_ + QPointF(static_cast<double>(x), static_cast<double>(y)) * unitsPerInch_;
         return {std::clamp(point.x(), -farAway, farAway), std::clamp(point.y(), -farAway, farAway)};
+    }
+
+    /// The text in lines that keep to its space; at least one.
+    [[nodiscard]] QStringList linesOf(const PlanText& text, const QFontMetricsF& metrics) const {
+        const double width = static_cast<double>(text.space.width) * unitsPerInch_;
+        if (width <= 0 || metrics.horizontalAdvance(text.text) <= width) {
+            return {text.text};
+        }
+        const double height = static_cast<double>(text.space.height) * unitsPerInch_;
+        const auto most = std::max<qsizetype>(static_cast<qsizetype>(height / metrics.lineSpacing()), 1);
+        QStringList lines;
+        for (const QString& word : text.text.split(u' ', Qt::SkipEmptyParts)) {
+            const QString longer = lines.isEmpty() ? word : lines.last() + u' ' + word;
+            if (lines.isEmpty() || (lines.size() < most && metrics.horizontalAdvance(longer) > width)) {
+                lines << word;
+            } else {
+                lines.last() = longer;
+            }
+        }
+        for (QString& line : lines) {
+            line = metrics.elidedText(line, Qt::ElideRight, width);
+        }
+        return lines;
+    }
+
+    void paintLine(const QString& line, const QPointF& baseline, const QFont& font) {
+        // A rim of paper keeps a text legible where walls or another text cross it.
+        QPainterPath outline;
+        outline.addText(baseline, font, line);
+        constexpr int rimStrength = 190;
+        constexpr double rimWidth = 3;
+        painter_.strokePath(outline, QPen(QColor(255, 255, 255, rimStrength), rimWidth * pens_.lineWidth,
+                                          Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter_.setFont(font);
+        painter_.setPen(ink);
+        painter_.drawText(baseline, line);
     }
 
     /// The middle of the nearest unit, where an upright line is crisp.

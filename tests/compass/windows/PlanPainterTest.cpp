@@ -103,24 +103,36 @@ TEST(PlanPainter, whatLiesFarOutside_isNotSeenAndHarmsNothing) {
     EXPECT_NE(image.pixelColor(side - 3, side / 2), QColor(Qt::white));
 }
 
-TEST(PlanPainter, textWiderThanItsSpace_isCut) {
-    const auto inkRightOf = [](float width) {
+TEST(PlanPainter, textWiderThanItsSpace_goesOnInFurtherLinesAndIsThenCut) {
+    /// The part of the picture that a name of three words covers.
+    const auto inked = [](const PlanSpace& space) {
         PlanPicture picture;
         setSquareScale(picture, 100);
         picture.CurrentX = -90;
-        picture.Print(QStringLiteral("Great Hall of the Ancestors"), width);
+        picture.CurrentY = -90;
+        picture.Print(QStringLiteral("Great Summer Hall"), space);
         const QImage image = painted(picture);
-        for (int x = side / 4; x < side; ++x) {
+        QRect covered;
+        for (int x = 0; x < side; ++x) {
             for (int y = 0; y < side; ++y) {
                 if (image.pixelColor(x, y).lightness() < 128) {
-                    return true;
+                    covered |= QRect(x, y, 1, 1);
                 }
             }
         }
-        return false;
+        return covered;
     };
-    EXPECT_TRUE(inkRightOf(0));
-    EXPECT_FALSE(inkRightOf(30));
+    constexpr int pixelsPerInch = 2;
+    const QRect whole = inked({});
+    const int lineHeight = whole.height();
+    EXPECT_EQ(inked({.width = 150, .height = 1}), whole);
+    const QRect wrapped = inked({.width = 40, .height = 80});
+    EXPECT_LE(wrapped.width(), 40 * pixelsPerInch);
+    EXPECT_GT(wrapped.height(), 2 * lineHeight);
+    const QRect cut = inked({.width = 40, .height = 1});
+    EXPECT_LE(cut.width(), 40 * pixelsPerInch);
+    EXPECT_LE(cut.height(), lineHeight);
+    EXPECT_FALSE(cut.isEmpty());
 }
 
 TEST(PlanWidget, toPlan_mapsEdgesAndMiddleAndBack) {
