@@ -17,6 +17,12 @@ const QString KEY = u"PROFILEID"_s;
 
 std::unique_ptr<cProfile> Global::CurrentProfile;
 
+std::optional<qint32> Global::accentColor() {
+    const cProfile* person = CurrentProfile.get();
+    return person != nullptr && person->PROFILEID > 0 ? std::optional(person->oColor.LIGHTCOLORVALUE)
+                                                      : std::nullopt;
+}
+
 cProfile::cProfile() {
     routine(u"cProfile.Class_Initialize", [this] {
         folder = Global::dataFolder();

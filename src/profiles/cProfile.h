@@ -15,6 +15,7 @@
 #include <QVariant>
 
 #include <memory>
+#include <optional>
 
 class ReportSurface;
 
@@ -107,5 +108,9 @@ namespace Global {
 
 /// The one person that the whole user interface shares.
 extern std::unique_ptr<cProfile> CurrentProfile;
+
+/// The light colour of the shared person, as it is stored: the accent of the windows. Nothing where nobody is
+/// chosen.
+[[nodiscard]] std::optional<qint32> accentColor();
 
 } // namespace Global

@@ -91,7 +91,7 @@ QWidget* frmRoom::buildFacts() {
     auto* row = new QHBoxLayout;
     row->setSpacing(between);
     cmdOK = addButton(*row, u"cmdOK"_s, u"&Save"_s, u"Click Save to save changes to this room"_s,
-                      &frmRoom::cmdOK_Click);
+                      &frmRoom::mnuFileSave_Click);
     cmdOK->setDefault(true);
     addButton(*row, u"cmdPrint"_s, u"&Print"_s, u"Click Print to print a copy of the Feng Shui Analysis"_s,
               &frmRoom::cmdPrint_Click);
@@ -99,7 +99,7 @@ QWidget* frmRoom::buildFacts() {
               u"Click Compass to see how the room is divided into the compass locations"_s,
               &frmRoom::cmdCompass_Click);
     cmdCancel = addButton(*row, u"cmdCancel"_s, u"C&lose"_s, u"Click Close to return to the Floorplan"_s,
-                          &frmRoom::cmdCancel_Click);
+                          &frmRoom::mnuFileClose_Click);
 
     auto* column = new QVBoxLayout(facts);
     column->setContentsMargins(0, group, 0, between);
@@ -160,8 +160,7 @@ void frmRoom::buildMenu() {
 
 bool frmRoom::NewRoom(qint32 LocationID, qint32 FloorID) {
     return routine(u"frmRoom.New Room", false, [&](bool& result) {
-        setCaption(*cmdOK, u"Finish"_s);
-        oRoom = std::make_unique<cRoom>();
+        begin(u"Finish"_s);
         oRoom->FLOORID = FloorID;
         oRoom->LocationID = LocationID;
         oRoom->LoadRooms();
@@ -183,8 +182,7 @@ bool frmRoom::OpenRoom(qint32 RoomID) {
     return routine(u"frmRoom.Open Room", false, [&](bool& result) {
         {
             const WaitPointer wait;
-            setCaption(*cmdOK, u"&Save"_s);
-            oRoom = std::make_unique<cRoom>();
+            begin(u"&Save"_s);
             Form_Load();
             fillLists();
             ClearScreen();
@@ -201,6 +199,12 @@ bool frmRoom::OpenRoom(qint32 RoomID) {
     });
 }
 
+void frmRoom::begin(const QString& saveCaption) {
+    setCaption(*cmdOK, saveCaption);
+    cmdOK->setEnabled(false);
+    oRoom = std::make_unique<cRoom>();
+}
+
 bool frmRoom::showUntilClosed() {
     form_->txtDescription->setFocus();
     exec();
@@ -214,10 +218,7 @@ void frmRoom::Form_Load() {
     routine(u"frmRoom.Form_Load", [this] {
         loaded_ = true;
         restorePlacement(*this);
-        if (const cProfile* person = Global::CurrentProfile.get();
-            person != nullptr && person->PROFILEID > 0) {
-            vsTop->setAccent(ColorContrast::fromStored(person->oColor.LIGHTCOLORVALUE));
-        }
+        vsTop->setAccent(ColorContrast::fromStored(Global::accentColor()));
     });
 }
 
@@ -383,14 +384,6 @@ void frmRoom::askToSave() {
 void frmRoom::mnuFileClose_Click() {
     passOver([this] { askToSave(); });
     passOver([this] { hide(); });
-}
-
-void frmRoom::cmdOK_Click() {
-    passOver([this] { mnuFileSave_Click(); });
-}
-
-void frmRoom::cmdCancel_Click() {
-    passOver([this] { mnuFileClose_Click(); });
 }
 
 void frmRoom::cmdPrint_Click() {

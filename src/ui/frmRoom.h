@@ -49,6 +49,8 @@ private:
 
     void Form_Load();
     void Form_Unload();
+    /// Starts a visit with a room object of its own and nothing to save.
+    void begin(const QString& saveCaption);
     bool showUntilClosed();
 
     void fill(QStringView label, const std::function<void()>& body);
@@ -67,12 +69,12 @@ private:
     void askToSave();
     [[nodiscard]] cRoom& room() const;
 
+    /// `cmdOK` does the same.
     void mnuFileSave_Click();
     void mnuFilePrint_Click();
     void mnuFileSaveAs_Click();
+    /// `cmdCancel` does the same.
     void mnuFileClose_Click();
-    void cmdOK_Click();
-    void cmdCancel_Click();
     void cmdPrint_Click();
     void cmdCompass_Click();
 

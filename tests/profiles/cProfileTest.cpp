@@ -31,6 +31,18 @@ TEST_F(cProfileTest, creation_noFileAtAll_isSilent) {
     EXPECT_TRUE(profile.LoadProfiles());
 }
 
+// The accent.
+
+TEST_F(cProfileTest, accentColor_isTheSharedPersonsOwnAndNothingForNobody) {
+    Global::CurrentProfile.reset();
+    EXPECT_EQ(Global::accentColor(), std::nullopt);
+    Global::CurrentProfile = std::make_unique<cProfile>();
+    EXPECT_EQ(Global::accentColor(), std::nullopt);
+    ASSERT_TRUE(Global::CurrentProfile->GetProfile(1));
+    EXPECT_EQ(Global::accentColor(), Global::CurrentProfile->oColor.LIGHTCOLORVALUE);
+    Global::CurrentProfile.reset();
+}
+
 // CalculateKUA.
 
 TEST_F(cProfileTest, CalculateKUA_onTheStartDate_takesThatYearsRow) {

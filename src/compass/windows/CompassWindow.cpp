@@ -132,12 +132,7 @@ void CompassWindow::Form_Load(const QString& title) {
     const bool isRoom = drawing_.view() == CompassDrawing::View::Room;
     routine(drawing_.label(isRoom ? u"Form_Load" : u"Form Load"), [this] { restorePlacement(*this); });
     vsTop->setCaption(captionText(title));
-    const cProfile* const person = Global::CurrentProfile.get();
-    if (person != nullptr && person->PROFILEID > 0) {
-        vsTop->setAccent(ColorContrast::fromStored(person->oColor.LIGHTCOLORVALUE));
-    } else {
-        vsTop->setAccent({});
-    }
+    vsTop->setAccent(ColorContrast::fromStored(Global::accentColor()));
     lblCoord->clear();
 }
 

@@ -114,10 +114,7 @@ void frmPrintPreview::PrintRoomReport() {
     routine(u"frmPrintPreview.PrintRoomReport", [this] {
         Form_Load();
         vsTop->setCaption(captionText(currentLocation().DESCRIPTION) + QStringLiteral(" Room Report"));
-        if (const cProfile* person = Global::CurrentProfile.get();
-            person != nullptr && person->PROFILEID > 0) {
-            vsTop->setAccent(ColorContrast::fromStored(person->oColor.LIGHTCOLORVALUE));
-        }
+        vsTop->setAccent(ColorContrast::fromStored(Global::accentColor()));
         analyze();
         exec();
         Form_Unload();

@@ -47,3 +47,7 @@ QColor ColorContrast::fromStored(qint32 value) {
     return QColor(static_cast<int>(bits & 0xFFU), static_cast<int>((bits >> 8U) & 0xFFU),
                   static_cast<int>((bits >> 16U) & 0xFFU));
 }
+
+std::optional<QColor> ColorContrast::fromStored(const std::optional<qint32>& value) {
+    return value ? std::optional(fromStored(*value)) : std::nullopt;
+}

@@ -2,6 +2,8 @@
 
 #include <QColor>
 
+#include <optional>
+
 class QPalette;
 
 /// Colours that belong together on the screen.
@@ -21,5 +23,7 @@ namespace ColorContrast {
 
 /// A stored colour number, red in the lowest byte.
 [[nodiscard]] QColor fromStored(qint32 value);
+/// The same for a colour that may be missing.
+[[nodiscard]] std::optional<QColor> fromStored(const std::optional<qint32>& value);
 
 } // namespace ColorContrast

@@ -35,3 +35,8 @@ TEST(ColorContrast, paperGrey_followsTheDesktopsTheme) {
 TEST(ColorContrast, fromStored_hasRedInTheLowestByte) {
     EXPECT_EQ(ColorContrast::fromStored(0x030201), QColor(1, 2, 3));
 }
+
+TEST(ColorContrast, fromStored_noColour_isNone) {
+    EXPECT_EQ(ColorContrast::fromStored(std::optional<qint32>()), std::nullopt);
+    EXPECT_EQ(ColorContrast::fromStored(std::optional(0x030201)), QColor(1, 2, 3));
+}
