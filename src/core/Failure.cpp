@@ -44,6 +44,10 @@ QString descriptionOf(ErrorNumber number) {
         return QStringLiteral("Invalid use of Null");
     case ErrorNumber::InvalidFileFormat:
         return QStringLiteral("Invalid file format");
+    case ErrorNumber::InvalidPropertyValue:
+        return QStringLiteral("Invalid property value");
+    case ErrorNumber::InvalidPropertyArrayIndex:
+        return QStringLiteral("Invalid property array index");
     }
     return QStringLiteral("Application-defined or object-defined error");
 }

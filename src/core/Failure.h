@@ -34,6 +34,8 @@ enum class ErrorNumber : qint32 {
     ObjectNotSet = 91,
     InvalidUseOfNull = 94,
     InvalidFileFormat = 321,
+    InvalidPropertyValue = 380,
+    InvalidPropertyArrayIndex = 381,
 };
 
 /// A failure with the number's classic description, for example 11 with "Division by zero".

@@ -1,5 +1,6 @@
 #include "locations/LocationFiles.h"
 
+#include "core/Conversion.h"
 #include "core/Global.h"
 #include "store/RecordStore.h"
 
@@ -50,4 +51,8 @@ std::unique_ptr<cXMLHandler> LocationFiles::loadRooms(const QString& folder) {
 
 std::unique_ptr<cXMLHandler> LocationFiles::loadLocations(const QString& folder) {
     return loadWithDecimalRepair(folder + u"Locations.xml"_s, {"NORTHOFFSET", "LABLEX", "LABLEY"});
+}
+
+float LocationFiles::distance(const QString& text) {
+    return Conversion::toSingle(Conversion::generalNumber(Conversion::toDouble(text)));
 }

@@ -20,4 +20,8 @@ namespace LocationFiles {
 /// A fresh store on `Locations.xml` of a folder.
 [[nodiscard]] std::unique_ptr<cXMLHandler> loadLocations(const QString& folder);
 
+/// A stored plan distance, in inches, as it comes back from its form "General Number". Fails with error 13
+/// (Type mismatch) for a text that is no number.
+[[nodiscard]] float distance(const QString& text);
+
 } // namespace LocationFiles

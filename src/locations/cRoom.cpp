@@ -12,11 +12,6 @@ namespace {
 
 const QString KEY = u"ROOMID"_s;
 
-/// A stored extent as it comes back from its form "General Number".
-float extent(const QString& text) {
-    return Conversion::toSingle(Conversion::generalNumber(Conversion::toDouble(text)));
-}
-
 /// A stored flag; one of an unknown spelling reads as false.
 bool flag(const QString& text) {
     return Global::NormalizeBoolean(text) == u"True"_s;
@@ -40,10 +35,10 @@ bool cRoom::GetRoom(qint32 lRoomID) {
         ROOMTYPEID = Conversion::toLong(store.GetAttribute(u"ROOMTYPEID"_s));
         FLOORTYPEID = Conversion::toLong(store.GetAttribute(u"FLOORTYPEID"_s));
         DESCRIPTION = store.GetAttribute(u"DESCRIPTION"_s);
-        TOP = extent(store.GetAttribute(u"TOP"_s));
-        LEFT = extent(store.GetAttribute(u"LEFT"_s));
-        Length = extent(store.GetAttribute(u"LENGTH"_s));
-        WIDTH = extent(store.GetAttribute(u"WIDTH"_s));
+        TOP = LocationFiles::distance(store.GetAttribute(u"TOP"_s));
+        LEFT = LocationFiles::distance(store.GetAttribute(u"LEFT"_s));
+        Length = LocationFiles::distance(store.GetAttribute(u"LENGTH"_s));
+        WIDTH = LocationFiles::distance(store.GetAttribute(u"WIDTH"_s));
         RelativeDirection = Conversion::toLong(store.GetAttribute(u"RELATIVEDIRECTION"_s));
         HasEntrance = flag(store.GetAttribute(u"HASENTRANCE"_s));
         HASEXPOSEDBEAMS = flag(store.GetAttribute(u"HASEXPOSEDBEAMS"_s));

@@ -8,47 +8,37 @@
 #include "ui/ViewFrame.h"
 #include "ui/platform/ComboList.h"
 #include "ui/widgets/RecordList.h"
-#include "ui/widgets/TitleBand.h"
 
-#include <QIcon>
-#include <QPainter>
+#include <QLabel>
+#include <QPushButton>
 #include <QScopedValueRollback>
-#include <QVBoxLayout>
 
-namespace {
+QPushButton* PaneParts::makeButton(const QString& name, const QString& caption, const QString& toolTip,
+                                   QWidget* parent) {
+    auto* button = named(new QPushButton(caption, parent), name, QString(caption).remove(u'&'), toolTip);
+    button->setAutoDefault(true); // Enter presses the button that has the focus
+    return button;
+}
 
-/// A picture in the middle of its room, drawn faintly, as sharp as the screen can show it.
-class FaintPicture final : public QWidget {
-public:
-    FaintPicture(const QString& picture, QWidget* parent)
-        : QWidget(parent)
-        , picture_(picture) {}
+QLabel* PaneParts::makeLabel(const QString& name, const QString& caption, QWidget* parent) {
+    auto* label = new QLabel(caption, parent);
+    label->setObjectName(name);
+    label->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    return label;
+}
 
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        constexpr int side = 160;
-        constexpr double strength = 0.35;
-        QRect place(0, 0, side, side);
-        place.moveCenter(rect().center());
-        QPainter painter(this);
-        painter.setOpacity(strength);
-        picture_.paint(&painter, place);
+void PaneParts::makeAlike(std::initializer_list<QPushButton*> buttons, const QString& otherCaption) {
+    const QPushButton other(otherCaption);
+    QSize size = other.sizeHint();
+    for (const QPushButton* button : buttons) {
+        size = size.expandedTo(button->sizeHint());
     }
-
-private:
-    QIcon picture_;
-};
-
-} // namespace
-
-TitleBand* PaneParts::addBand(QWidget& pane, QVBoxLayout& column, const QString& name,
-                              const QString& picture) {
-    auto* band = new TitleBand(&pane);
-    band->setObjectName(name);
-    column.setContentsMargins(0, 0, 0, 0);
-    column.addWidget(band);
-    column.addWidget(new FaintPicture(picture, &pane), 1);
-    return band;
+    for (QPushButton* button : buttons) {
+        button->setMinimumSize(size);
+        QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        policy.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(policy);
+    }
 }
 
 RecordList* PaneParts::makeList(QWidget& pane, const QString& name, const QString& accessibleName,

@@ -3,19 +3,35 @@
 #include <QString>
 #include <QVariant>
 
+#include <initializer_list>
+
 class ComboList;
-class QVBoxLayout;
+class QLabel;
+class QPushButton;
 class QWidget;
 class RecordList;
-class TitleBand;
 class ViewFrame;
 class cXMLHandler;
 
 /// What the two panes are made of alike.
 namespace PaneParts {
 
-/// The title band at the pane's top, over the pane's picture as long as nothing else stands there.
-TitleBand* addBand(QWidget& pane, QVBoxLayout& column, const QString& name, const QString& picture);
+/// A control under its names and with its tool tip.
+template<class Control>
+Control* named(Control* control, const QString& name, const QString& accessibleName, const QString& toolTip) {
+    control->setObjectName(name);
+    control->setAccessibleName(accessibleName);
+    control->setToolTip(toolTip);
+    return control;
+}
+
+QPushButton* makeButton(const QString& name, const QString& caption, const QString& toolTip, QWidget* parent);
+
+/// A label that stands before its field.
+QLabel* makeLabel(const QString& name, const QString& caption, QWidget* parent);
+
+/// Gives all the buttons the room of the largest, also for a caption that one of them has at times.
+void makeAlike(std::initializer_list<QPushButton*> buttons, const QString& otherCaption);
 
 /// The list of records, in which the name of the one on show can be edited.
 RecordList* makeList(QWidget& pane, const QString& name, const QString& accessibleName,

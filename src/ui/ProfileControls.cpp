@@ -21,6 +21,10 @@
 #include <initializer_list>
 
 using namespace Qt::StringLiterals;
+using PaneParts::makeAlike;
+using PaneParts::makeButton;
+using PaneParts::makeLabel;
+using PaneParts::named;
 
 namespace {
 
@@ -35,43 +39,6 @@ Control& found(QWidget& pane, QStringView name) {
         throw failure(ErrorNumber::ObjectNotSet);
     }
     return *control;
-}
-
-template<class Control>
-Control* named(Control* control, const QString& name, const QString& accessibleName, const QString& toolTip) {
-    control->setObjectName(name);
-    control->setAccessibleName(accessibleName);
-    control->setToolTip(toolTip);
-    return control;
-}
-
-QPushButton* makeButton(const QString& name, const QString& caption, const QString& toolTip,
-                        QWidget* parent) {
-    auto* button = named(new QPushButton(caption, parent), name, QString(caption).remove(u'&'), toolTip);
-    button->setAutoDefault(true); // Enter presses the button that has the focus
-    return button;
-}
-
-QLabel* makeLabel(const QString& name, const QString& caption, QWidget* parent) {
-    auto* label = new QLabel(caption, parent);
-    label->setObjectName(name);
-    label->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-    return label;
-}
-
-/// Gives all the buttons the room of the largest, also for a caption that one of them has at times.
-void makeAlike(std::initializer_list<QPushButton*> buttons, const QString& otherCaption) {
-    const QPushButton other(otherCaption);
-    QSize size = other.sizeHint();
-    for (const QPushButton* button : buttons) {
-        size = size.expandedTo(button->sizeHint());
-    }
-    for (QPushButton* button : buttons) {
-        button->setMinimumSize(size);
-        QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        policy.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(policy);
-    }
 }
 
 } // namespace

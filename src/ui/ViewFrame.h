@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPoint>
 #include <QString>
 
 #include <functional>
@@ -31,4 +32,7 @@ public:
 
     /// Shows a toolbar button pressed and the other one released; the panes do not change.
     virtual void pressButton(Pane pane) = 0;
+
+    /// Opens the menu of the home's commands at a place of the screen.
+    virtual void popUpLocations(const QPoint& onScreen) = 0;
 };

@@ -213,6 +213,10 @@ void frmView::pressButton(Pane pane) {
     (pane == Pane::Profile ? profileButton_ : locationButton_)->setChecked(true);
 }
 
+void frmView::popUpLocations(const QPoint& onScreen) {
+    mnuLocations->popup(onScreen);
+}
+
 void frmView::Form_Load() {
     routine(u"frmView.Form_Load", [this] {
         restorePlacement(*this);

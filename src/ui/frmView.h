@@ -30,6 +30,7 @@ public:
     void setEntryEnabled(const QString& name, bool enabled) override;
     void connectEntry(const QString& name, std::function<void()> handler) override;
     void pressButton(Pane pane) override;
+    void popUpLocations(const QPoint& onScreen) override;
 
     [[nodiscard]] QSize sizeHint() const override;
 

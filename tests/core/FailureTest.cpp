@@ -33,6 +33,8 @@ TEST_F(FailureTest, failure_everyClassicNumber_hasItsClassicDescription) {
         {ErrorNumber::ObjectNotSet, u"91 Object variable or With block variable not set"_s},
         {ErrorNumber::InvalidUseOfNull, u"94 Invalid use of Null"_s},
         {ErrorNumber::InvalidFileFormat, u"321 Invalid file format"_s},
+        {ErrorNumber::InvalidPropertyValue, u"380 Invalid property value"_s},
+        {ErrorNumber::InvalidPropertyArrayIndex, u"381 Invalid property array index"_s},
     };
     for (const auto& [number, text] : classic) {
         const Failure found = failure(number);

@@ -96,6 +96,7 @@ public:
     void pressButton(Pane pane) override {
         journal_.note(pane == Pane::Profile ? u"button PROFILE"_s : u"button LOCATION"_s);
     }
+    void popUpLocations(const QPoint& /*onScreen*/) override {}
 
 private:
     Journal& journal_;
