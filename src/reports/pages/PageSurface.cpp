@@ -232,8 +232,10 @@ QVariant PageSurface::property(SurfaceProperty property) const {
         const qint32 last = open_ ? 1 : PageCount();
         return std::clamp(value(property).toInt(), std::min(last, 1), last);
     }
-    case Property::Zoom:
-        return std::clamp(number(property), 1.0, 1000.0);
+    case Property::Zoom: {
+        const bool fits = value(Property::ZoomMode).toInt() != 0 && shownZoom_ > 0;
+        return std::clamp(fits ? shownZoom_ : number(property), 1.0, 1000.0);
+    }
     default:
         return value(property);
     }

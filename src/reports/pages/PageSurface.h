@@ -28,6 +28,10 @@ public:
     /// `Zoom`, `ZoomMode` or `ToolTipText` was set.
     std::function<void()> onViewChanged;
 
+    /// In a fit mode it is the preview that finds the size: this is the percentage that it came to, which
+    /// `Zoom` reads as meanwhile, so that a step from there goes on from what the eye sees.
+    void setShownZoom(double percent) { shownZoom_ = percent; }
+
     void StartDoc() override;
     /// Closes the document. Throws a Failure when `ExportFile` cannot be written; the document is finished
     /// all the same.
@@ -81,4 +85,5 @@ private:
     double currentY_ = 0;
     /// `CurrentX` was set since the last paragraph.
     bool positioned_ = false;
+    double shownZoom_ = 0;
 };

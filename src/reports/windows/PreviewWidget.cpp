@@ -98,6 +98,7 @@ void PreviewWidget::layOut() {
     space.dotsPerInch = logicalDpiX();
     space.captionHeight = fontMetrics().height() + paperShadowReach;
     plan_ = planPreview(view, space);
+    surface_.setShownZoom(shownZoom());
 
     const QSize room(
         plan_.desk.height() > space.viewport.height() ? space.viewport.width() - space.scrollBarExtent
@@ -225,16 +226,19 @@ void PreviewWidget::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
-void PreviewWidget::zoomBy(double percent) {
+double PreviewWidget::shownZoom() const {
     constexpr double twipsPerInch = 1440;
+    return plan_.scale * twipsPerInch / logicalDpiX() * 100;
+}
+
+void PreviewWidget::zoomBy(double percent) {
     constexpr double smallest = 10;
     constexpr double largest = 400;
     if (percent == 0 || plan_.pages.empty()) {
         return;
     }
     // From a fit mode it goes on from what the eye sees.
-    const double seen = plan_.scale * twipsPerInch / logicalDpiX() * 100;
-    surface_.Zoom(std::clamp(seen + percent, smallest, largest));
+    surface_.Zoom(std::clamp(shownZoom() + percent, smallest, largest));
 }
 
 void PreviewWidget::scrollOrTurn(int direction) {

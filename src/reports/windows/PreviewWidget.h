@@ -50,6 +50,8 @@ private:
     bool choose(qint32 page);
     void scrollOrTurn(int direction);
     bool walkThumbnails(int key);
+    /// The size of the pages in percent; 0 where there are none.
+    [[nodiscard]] double shownZoom() const;
     void zoomBy(double percent);
     void paintPlace(QPainter& painter, const PagePlace& place) const;
 

@@ -93,6 +93,17 @@ TEST_F(PreviewWidgetTest, zoomWhileAFitModeIsOn_takesEffect) {
     EXPECT_GT(preview_->pageArea(0).width(), before);
 }
 
+TEST_F(PreviewWidgetTest, zoomReadInAFitMode_isWhatTheEyeSees) {
+    writePages(1);
+    surface_.Zoom(100);
+    const double fullWidth = preview_->pageArea(0).width();
+    surface_.ZoomMode(4);
+    EXPECT_NEAR(surface_.Zoom(), preview_->pageArea(0).width() / fullWidth * 100, 0.5);
+    const int before = preview_->pageArea(0).width();
+    surface_.Zoom(surface_.Zoom() - 10);
+    EXPECT_LT(preview_->pageArea(0).width(), before);
+}
+
 TEST_F(PreviewWidgetTest, thumbnails_aClickChoosesThePage) {
     writePages(5);
     surface_.ZoomMode(2);
