@@ -86,7 +86,6 @@ void CompassWindow::buildStrip() {
     readOut->setContentsMargins(edge, between, edge, 0);
     lblCoord = new TabularLabel(vsSplit);
     lblCoord->setObjectName(QStringLiteral("lblCoord"));
-    lblCoord->setAccessibleName(tr("Where the mouse points"));
     readOut->addWidget(lblCoord);
     main_->addWidget(vsSplit);
 
@@ -142,13 +141,22 @@ void CompassWindow::Form_Unload() {
 
 void CompassWindow::drawPlan() {
     const cLocation& home = currentLocation();
-    picFloorPlan->picture().Cls();
-    picFloorPlan->update();
+    clearPlan();
     // North at the very top counts as not set, even when it was clicked.
     const bool isSet = home.NORTHOFFSET != 0;
-    drawing_.DrawCompass(picFloorPlan->picture(), home.NORTHOFFSET,
-                         isSet ? std::optional(storedClick(home)) : std::nullopt);
+    drawPlan(home.NORTHOFFSET, isSet ? std::optional(storedClick(home)) : std::nullopt);
+}
+
+void CompassWindow::drawPlan(double north, const std::optional<CompassGeometry::PlanPoint>& clicked) {
+    drawing_.DrawCompass(picFloorPlan->picture(), north, clicked);
     drawing_.DrawRooms(picFloorPlan->picture());
+    picFloorPlan->setAccessibleDescription(
+        tr("North is %1 degrees clockwise from the top").arg(north, 0, 'f', 1));
+}
+
+void CompassWindow::clearPlan() {
+    picFloorPlan->picture().Cls();
+    picFloorPlan->update();
 }
 
 void CompassWindow::picFloorPlan_Resize() {

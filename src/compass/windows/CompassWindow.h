@@ -32,6 +32,9 @@ protected:
 
     /// Draws the compass of the current home's North, and the rooms over it.
     void drawPlan();
+    /// The same on a cleared plan, for a North that was just clicked.
+    void drawPlan(double north, const std::optional<CompassGeometry::PlanPoint>& clicked);
+    void clearPlan();
 
     /// Adds a line of text above the plan.
     void addInstruction(QLabel* label);

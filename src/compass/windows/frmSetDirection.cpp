@@ -51,16 +51,13 @@ bool frmSetDirection::SetDirection() {
 
 void frmSetDirection::picFloorPlan_MouseUp(double X, double Y) {
     routine(u"frmSetDirection.picFloorPlan_MouseUp", [&] {
-        PlanPicture& picture = picFloorPlan->picture();
-        picture.Cls();
-        picFloorPlan->update();
+        clearPlan();
         const double angle = CompassGeometry::pointedAngle(X, Y);
         cLocation& home = currentLocation();
         home.NORTHOFFSET = angle;
         home.LABLEX = X;
         home.LABLEY = Y;
-        drawing_.DrawCompass(picture, angle, CompassGeometry::PlanPoint{.X = X, .Y = Y});
-        drawing_.DrawRooms(picture);
+        drawPlan(angle, CompassGeometry::PlanPoint{.X = X, .Y = Y});
     });
 }
 

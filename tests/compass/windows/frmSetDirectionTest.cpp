@@ -81,7 +81,11 @@ TEST_F(frmSetDirectionTest, click_setsNorthInMemoryAndTurnsTheSectors) {
 
 TEST_F(frmSetDirectionTest, click_withAnyButtonCountsAndTheLastOneHolds) {
     show([](QWidget& window) {
+        EXPECT_EQ(plan(window).accessibleDescription(),
+                  QStringLiteral("North is 40.0 degrees clockwise from the top"));
         clickPlan(window, 50, 50, Qt::RightButton);
+        EXPECT_NE(plan(window).accessibleDescription(),
+                  QStringLiteral("North is 40.0 degrees clockwise from the top"));
         EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 135, 1);
         clickPlan(window, -50, 50, Qt::MiddleButton);
         EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 225, 1);
