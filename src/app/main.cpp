@@ -13,6 +13,8 @@
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Talivane"));
+    // The name under which desktops know the program's entry and icon.
+    QApplication::setDesktopFileName(QStringLiteral("com.orvenel.Talivane"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/talivane/pictures/talivane.svg")));
 
     DialogPrompts prompts;
