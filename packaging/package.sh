@@ -35,7 +35,7 @@ launcher() { # launcher SHIPPED OWN: the two folders as the shell is to read the
 mkdir -p "$stage/debian"
 printf 'Source: talivane\n\nPackage: talivane\nArchitecture: any\n' >"$stage/debian/control"
 # The pictures' plugin is loaded by name and linked by nobody.
-depends=$(cd "$stage" && dpkg-shlibdeps -O "$shipped/talivane" 2>/dev/null | sed -n 's/^shlibs:Depends=//p'), libqt6svg6
+depends="$(cd "$stage" && dpkg-shlibdeps -O "$shipped/talivane" 2>/dev/null | sed -n 's/^shlibs:Depends=//p'), libqt6svg6"
 
 # The archive runs where it is unpacked.
 folder=$stage/talivane-$version
