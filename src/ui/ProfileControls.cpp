@@ -110,7 +110,10 @@ QWidget* ProfileControls::makeEntryColumn(QWidget* vsDetailProfile) {
     area->setWidget(content);
     content->setAutoFillBackground(false);
     area->viewport()->setAutoFillBackground(false);
+    constexpr int widestInCharacters = 72;
     area->setMinimumWidth(content->minimumSizeHint().width());
+    area->setMaximumWidth(
+        std::max(area->minimumWidth(), widestInCharacters * area->fontMetrics().averageCharWidth()));
     return area;
 }
 

@@ -30,6 +30,16 @@ QFrame* makeRule(const QColor& color, QWidget* parent) {
     return rule;
 }
 
+/// Puts running text below what stands in a column, no wider than it reads well.
+void addText(QVBoxLayout& column, CaptionLabel* text) {
+    constexpr int widestInCharacters = 120;
+    text->setMaximumWidth(widestInCharacters * text->fontMetrics().averageCharWidth());
+    auto* row = new QHBoxLayout;
+    row->addWidget(text, 1);
+    row->addStretch();
+    column.addLayout(row, 1);
+}
+
 } // namespace
 
 ProfileTabs::ProfileTabs(QWidget* parent)
@@ -72,7 +82,7 @@ void ProfileTabs::addSummary() {
         row->addWidget(new PicturePanel(name, PicturePanel::Place::Under, page), 1);
     }
     column->addLayout(row);
-    column->addWidget(new CaptionLabel(u"lblSummary"_s, page), 1);
+    addText(*column, new CaptionLabel(u"lblSummary"_s, page));
 }
 
 void ProfileTabs::addDirections() {
@@ -87,6 +97,7 @@ void ProfileTabs::addDirections() {
     constexpr int primaryWidth = 280;
     primary->setFixedWidth(primaryWidth);
     grid->addWidget(primary, 0, 0, 1, 2, Qt::AlignHCenter);
+    grid->setRowMinimumHeight(0, primary->sizeHint().height() + between);
     addDirectionColumn(page, *grid, 0, u"lblAuspiciousDirections"_s, u"Auspicious Directions:"_s,
                        QColor(beneficialGreen),
                        {u"vsSuccessDirection"_s, u"vsHealthDirection"_s, u"vsRomanceDirection"_s,
@@ -116,7 +127,7 @@ void ProfileTabs::addElements() {
     column->setContentsMargins(betweenGroups, betweenGroups, betweenGroups, betweenGroups);
     column->setSpacing(betweenGroups);
     column->addWidget(new PicturePanel(u"vsElement"_s, PicturePanel::Place::Beside, page));
-    column->addWidget(new CaptionLabel(u"lblElementDescription"_s, page), 1);
+    addText(*column, new CaptionLabel(u"lblElementDescription"_s, page));
 }
 
 void ProfileTabs::setAccent(const std::optional<QColor>& color) {

@@ -16,6 +16,7 @@
 #include "ui/widgets/TitleBand.h"
 
 #include <QAbstractItemView>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -85,7 +86,10 @@ public:
         QLineEdit& edit = field(name);
         edit.selectAll();
         QTest::keyClick(&edit, Qt::Key_Delete);
-        QTest::keyClicks(&edit, typed);
+        // As an input method does it: the keys of a test know no letters beyond ASCII.
+        QInputMethodEvent input;
+        input.setCommitString(typed);
+        QCoreApplication::sendEvent(&edit, &input);
     }
     /// Edits the name in the list's field.
     void rename(const QString& typed) const {

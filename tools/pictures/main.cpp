@@ -19,6 +19,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -96,6 +97,13 @@ void grabWindows(frmView& mainWindow, const QString& folder, const QString& suff
     };
     QApplication::processEvents();
     save(mainWindow.grab().toImage(), path(QStringLiteral("main-window")));
+    auto* pages = mainWindow.findChild<QTabWidget*>(QStringLiteral("tabProfile"));
+    for (const auto& [page, name] :
+         {std::pair(1, "main-window-directions"), std::pair(2, "main-window-elements")}) {
+        pages->setCurrentIndex(page);
+        save(mainWindow.grab().toImage(), path(QString::fromLatin1(name)));
+    }
+    pages->setCurrentIndex(0);
     grabModal([&] { mainWindow.findChild<QAction*>(QStringLiteral("mnuAdviceRooms"))->trigger(); },
               path(QStringLiteral("room-report")));
     grabCompassViews(path(QStringLiteral("set-direction")), path(QStringLiteral("room-direction")));

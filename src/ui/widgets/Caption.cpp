@@ -15,5 +15,5 @@ QString shownCaption(const QString& caption) {
         }
         shown.append(caption.at(i));
     }
-    return shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return shown;
 }

@@ -12,5 +12,9 @@ CaptionLabel::CaptionLabel(const QString& name, QWidget* parent)
 
 void CaptionLabel::setCaption(const QString& caption) {
     caption_ = caption;
-    setText(shownCaption(caption));
+    QString shown = shownCaption(caption).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    while (shown.endsWith(u'\n')) {
+        shown.chop(1);
+    }
+    setText(shown);
 }

@@ -2,7 +2,8 @@
 
 #include <QLabel>
 
-/// Running text on a window: a caption of the program, wrapped to the room that there is.
+/// Running text on a window: a caption of the program, wrapped to the room that there is. Empty lines at its
+/// end take no room.
 class CaptionLabel final : public QLabel {
     Q_OBJECT
     Q_PROPERTY(QString caption READ caption WRITE setCaption)

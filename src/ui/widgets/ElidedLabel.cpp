@@ -58,7 +58,9 @@ void ElidedLabel::paintEvent(QPaintEvent* event) {
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shownText() != text_) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_.toHtmlEscaped(), this);
+        // As rich text, which wraps where it is long.
+        const QString tip = QStringLiteral("<span>%1</span>").arg(text_.toHtmlEscaped());
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
         return true;
     }
     return QFrame::event(event);

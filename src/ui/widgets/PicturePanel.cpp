@@ -18,6 +18,11 @@ constexpr int gap = 8;
 constexpr int lines = 3;
 constexpr int narrowestCaption = 96;
 
+/// The text with a bar to line breaks behind its hyphens, so that "North-West" stays whole.
+QString unbrokenAtHyphens(QString text) {
+    return text.replace(u'-', QStringLiteral("-\u2060"));
+}
+
 } // namespace
 
 PicturePanel::PicturePanel(const QString& name, Place captionPlace, QWidget* parent)
@@ -96,7 +101,7 @@ void PicturePanel::paintEvent(QPaintEvent* /*event*/) {
 
 void PicturePanel::paintCaption(QPainter& painter) const {
     const QString leadIn = shownCaption(leadIn_);
-    const QString value = shownCaption(value_);
+    const QString value = unbrokenAtHyphens(shownCaption(value_));
     QTextLayout layout(leadIn + value, font());
     QTextOption option(captionPlace_ == Place::Under ? Qt::AlignHCenter : Qt::AlignLeading);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

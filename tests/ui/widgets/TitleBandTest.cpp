@@ -5,12 +5,9 @@
 
 #include <QApplication>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QToolTip>
 #include <gtest/gtest.h>
-
-TEST(TitleBand, captionText_doublesEveryAmpersand) {
-    EXPECT_EQ(captionText(QStringLiteral("A & B && C")), QStringLiteral("A && B &&&& C"));
-}
 
 TEST(TitleBand, setCaption_showsADoubledAmpersandOnce) {
     TitleBand band;
@@ -38,7 +35,7 @@ TEST(TitleBand, longCaption_isCutWithAnEllipsisAndWholeInTheToolTip) {
     band.show();
     QHelpEvent wanted(QEvent::ToolTip, QPoint(10, 10), band.mapToGlobal(QPoint(10, 10)));
     QApplication::sendEvent(&band, &wanted);
-    EXPECT_EQ(QToolTip::text(), name.toHtmlEscaped());
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("<span>") + name + QStringLiteral("</span>"));
     QToolTip::hideText();
 }
 
@@ -64,4 +61,20 @@ TEST(TitleBand, font_isLargerThanTheWindows) {
     const TitleBand band(&window);
     EXPECT_GT(band.font().pointSizeF(), 1.3 * window.font().pointSizeF());
     EXPECT_EQ(band.font().weight(), QFont::DemiBold);
+}
+
+TEST(TitleBand, addWidget_standsAtTheEndAndTheTitleStopsBeforeIt) {
+    TitleBand band;
+    auto* label = new QLabel(QStringLiteral("LI"));
+    label->setFixedSize(100, 60);
+    const int before = band.sizeHint().height();
+    band.addWidget(label);
+    band.setAccent(QColor(10, 10, 60));
+    EXPECT_GT(band.sizeHint().height(), before);
+    band.resize(400, band.sizeHint().height());
+    band.setCaption(QString(200, u'n'));
+    band.grab();
+    EXPECT_EQ(label->geometry().right(), 400 - 24 - 1);
+    EXPECT_LE(24 + band.fontMetrics().horizontalAdvance(band.shownText()), label->x());
+    EXPECT_EQ(label->palette().color(QPalette::WindowText), band.textColor());
 }

@@ -1,0 +1,48 @@
+#include "ui/widgets/Caption.h"
+
+#include "support/QtPrinting.h"
+#include "ui/widgets/AccentTabBar.h"
+#include "ui/widgets/CaptionLabel.h"
+#include "ui/widgets/ColorContrast.h"
+
+#include <gtest/gtest.h>
+
+TEST(Caption, captionText_doublesEveryAmpersand) {
+    EXPECT_EQ(captionText(QStringLiteral("A & B && C")), QStringLiteral("A && B &&&& C"));
+}
+
+TEST(Caption, shownCaption_isTheTextAgain) {
+    for (const QString& text :
+         {QStringLiteral("A & B && C"), QStringLiteral("&"), QStringLiteral("&&&"), QString()}) {
+        EXPECT_EQ(shownCaption(captionText(text)), text);
+    }
+    EXPECT_EQ(shownCaption(QStringLiteral("&File&")), QStringLiteral("File"));
+}
+
+TEST(CaptionLabel, caption_isShownWithSingleAmpersandsAndWithoutEmptyLinesAtItsEnd) {
+    CaptionLabel label(QStringLiteral("lblSummary"));
+    label.setCaption(QStringLiteral("A && B\r\n\r\n<b>C</b>\r\n\r\n"));
+    EXPECT_EQ(label.caption(), QStringLiteral("A && B\r\n\r\n<b>C</b>\r\n\r\n"));
+    EXPECT_EQ(label.text(), QStringLiteral("A & B\n\n<b>C</b>"));
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_TRUE(label.wordWrap());
+}
+
+TEST(AccentTabBar, selectedTab_isUnderlinedInTheAccentColor) {
+    AccentTabBar bar;
+    bar.addTab(QStringLiteral("One"));
+    bar.addTab(QStringLiteral("Two"));
+    bar.resize(bar.sizeHint());
+    EXPECT_EQ(bar.accent(), ColorContrast::paperGrey(bar.palette()));
+    bar.setAccent(QColor(10, 200, 30));
+    for (const int selected : {0, 1}) {
+        bar.setCurrentIndex(selected);
+        const QImage image = bar.grab().toImage();
+        const auto under = [&](int tab) {
+            const QRect place = bar.tabRect(tab);
+            return image.pixelColor(place.center().x(), place.bottom());
+        };
+        EXPECT_EQ(under(selected), QColor(10, 200, 30));
+        EXPECT_NE(under(1 - selected), QColor(10, 200, 30));
+    }
+}
