@@ -215,6 +215,24 @@ TEST_F(frmRoomDirectionTest, roomThatIsGone_showsTheCompassAlone) {
         99);
 }
 
+TEST_F(frmRoomDirectionTest, homeThatIsGone_isReportedUnderTheLabelOfTheEvent) {
+    show([&](QWidget& window) {
+        const QString notSet = QStringLiteral("Object variable or With block variable not set");
+        Global::CurrentLocation.reset();
+        home_.world.prompts.expectError(QStringLiteral("frmRoomDirection.picFloorPlan_Resize"), 91, notSet);
+        window.resize(window.width() + 40, window.height() + 40);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(home_.world.prompts.isSatisfied());
+        home_.world.prompts.expectError(QStringLiteral("frmRoomDirection.cmdPrint_Click"), 91, notSet);
+        click(window, "cmdPrint");
+    });
+    home_.world.prompts.expectError(QStringLiteral("frmRoomDirection.Load Rooms"), 91);
+    home_.world.prompts.expectError(QStringLiteral("frmRoomDirection.Show Direction"), 91);
+    frmRoomDirection window;
+    window.ShowDirection(QStringLiteral("Nowhere"), 2);
+    EXPECT_FALSE(window.isVisible());
+}
+
 TEST_F(frmRoomDirectionTest, enterAndEscape_close) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         show([&](QWidget& window) {
