@@ -11,7 +11,7 @@
 #include "ui/widgets/ElidedLabel.h"
 
 #include <QComboBox>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -92,8 +92,7 @@ frmNineKi::frmNineKi(QWidget* parent)
 
 frmNineKi::~frmNineKi() = default;
 
-QGridLayout* frmNineKi::buildPage(QWidget* page, QLabel* info, QLabel* fieldLabel, QWidget* field,
-                                  int index) {
+void frmNineKi::buildPage(QWidget* page, QLabel* info, const QList<QWidget*>& fields, int index) {
     info->setWordWrap(true);
     auto* button = new QPushButton(QStringLiteral("&Advise"), page);
     button->setObjectName(QStringLiteral("cmdAdvise%1").arg(index));
@@ -102,18 +101,19 @@ QGridLayout* frmNineKi::buildPage(QWidget* page, QLabel* info, QLabel* fieldLabe
     connect(button, &QPushButton::clicked, this, [this, index] { cmdAdvise_Click(index); });
     cmdAdvise.at(static_cast<std::size_t>(index)) = button;
 
-    constexpr int fieldColumn = 1;
-    constexpr int buttonColumn = 3;
-    constexpr int restColumn = 4;
-    auto* grid = new QGridLayout(page);
-    grid->setContentsMargins(edge, between, edge, between);
-    grid->setSpacing(between);
-    grid->addWidget(info, 0, 0, 1, restColumn + 1);
-    grid->addWidget(fieldLabel, 1, 0, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(field, 1, fieldColumn);
-    grid->addWidget(button, 1, buttonColumn);
-    grid->setColumnStretch(restColumn, 1);
-    return grid;
+    auto* row = new QHBoxLayout;
+    row->setSpacing(between);
+    for (QWidget* field : fields) {
+        row->addWidget(field);
+    }
+    row->addWidget(button);
+    row->addStretch(1);
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(edge, between, edge, between);
+    column->setSpacing(between);
+    column->addWidget(info);
+    column->addLayout(row);
+    tabMoving->addTab(page, QString());
 }
 
 void frmNineKi::buildDirectionPage() {
@@ -126,9 +126,7 @@ void frmNineKi::buildDirectionPage() {
     txtMoveDate->setObjectName(QStringLiteral("txtMoveDate"));
     txtMoveDate->setFixedWidth(txtMoveDate->fontMetrics().horizontalAdvance(u'0') * dateLetters);
     cmdDate = new CalendarButton(QStringLiteral("cmdDate"), vsDirection);
-    QGridLayout* grid = buildPage(vsDirection, lblInfo, lblMovedate, txtMoveDate, 0);
-    grid->addWidget(cmdDate, 1, 2);
-    tabMoving->addTab(vsDirection, QString());
+    buildPage(vsDirection, lblInfo, {lblMovedate, txtMoveDate, cmdDate}, 0);
 }
 
 void frmNineKi::buildTimePage() {
@@ -138,8 +136,7 @@ void frmNineKi::buildTimePage() {
     lblDirection = makeLabel(vsTime, QStringLiteral("lblDirection"));
     cboDirection = new QComboBox(vsTime);
     cboDirection->setObjectName(QStringLiteral("cboDirection"));
-    buildPage(vsTime, lblDateInfo, lblDirection, cboDirection, 1);
-    tabMoving->addTab(vsTime, QString());
+    buildPage(vsTime, lblDateInfo, {lblDirection, cboDirection}, 1);
 }
 
 // Every sentence stays whole on its line, so that it can be proof-read and searched for.
@@ -183,11 +180,8 @@ void frmNineKi::advise(const QString& routineName, const ModeTexts& texts) {
         MoveMode = texts.mode;
         Form_Load();
         setTexts(texts);
-        const cProfile& person = currentProfile();
-        lblProfile->setText(person.PROFILENAME);
-        if (person.PROFILEID > 0) {
-            setAccent(person.oColor.LIGHTCOLORVALUE);
-        }
+        lblProfile->setText(currentProfile().PROFILENAME);
+        setAccent(Global::accentColor());
         showUntilClosed();
     });
 }

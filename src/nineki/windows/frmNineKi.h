@@ -7,7 +7,6 @@
 
 class ElidedLabel;
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QTabWidget;
@@ -33,7 +32,7 @@ public:
 private:
     struct ModeTexts;
 
-    QGridLayout* buildPage(QWidget* page, QLabel* info, QLabel* fieldLabel, QWidget* field, int index);
+    void buildPage(QWidget* page, QLabel* info, const QList<QWidget*>& fields, int index);
     void buildDirectionPage();
     void buildTimePage();
     void advise(const QString& routineName, const ModeTexts& texts);

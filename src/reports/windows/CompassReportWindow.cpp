@@ -107,7 +107,7 @@ void CompassReportWindow::setTitle(const QString& caption) {
     vsTop->setCaption(caption);
 }
 
-void CompassReportWindow::setAccent(qint32 color) {
+void CompassReportWindow::setAccent(std::optional<qint32> color) {
     vsTop->setAccent(ColorContrast::fromStored(color));
 }
 

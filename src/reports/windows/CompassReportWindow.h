@@ -6,6 +6,7 @@
 #include <QDialog>
 
 #include <memory>
+#include <optional>
 
 class PreviewWidget;
 class QLayout;
@@ -36,8 +37,8 @@ protected:
 
     /// The title in the band.
     void setTitle(const QString& caption);
-    /// The title's ground, a stored colour.
-    void setAccent(qint32 color);
+    /// The title's ground, a stored colour; nothing for paper grey.
+    void setAccent(std::optional<qint32> color);
 
     /// Offers to print and to save, or does not.
     void setPrintable(bool printable);
