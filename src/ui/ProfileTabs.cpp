@@ -14,6 +14,8 @@ namespace {
 
 constexpr int between = 8;
 constexpr int betweenGroups = 16;
+/// How wide running text still reads well; the pages grow no wider.
+constexpr int widestInCharacters = 130;
 /// The colours of the directions chart.
 constexpr QRgb beneficialGreen = 0x6AEA97;
 constexpr QRgb problematicBlue = 0xAAE3FF;
@@ -28,16 +30,6 @@ QFrame* makeRule(const QColor& color, QWidget* parent) {
     palette.setColor(QPalette::Window, color);
     rule->setPalette(palette);
     return rule;
-}
-
-/// Puts running text below what stands in a column, no wider than it reads well.
-void addText(QVBoxLayout& column, CaptionLabel* text) {
-    constexpr int widestInCharacters = 120;
-    text->setMaximumWidth(widestInCharacters * text->fontMetrics().averageCharWidth());
-    auto* row = new QHBoxLayout;
-    row->addWidget(text, 1);
-    row->addStretch();
-    column.addLayout(row, 1);
 }
 
 } // namespace
@@ -64,6 +56,7 @@ QWidget* ProfileTabs::addPage(const QString& name, const QString& caption) {
     auto* page = new QWidget(area);
     page->setObjectName(name);
     page->setAccessibleName(caption);
+    page->setMaximumWidth(widestInCharacters * page->fontMetrics().averageCharWidth());
     area->setWidget(page);
     page->setAutoFillBackground(false);
     area->viewport()->setAutoFillBackground(false);
@@ -82,7 +75,7 @@ void ProfileTabs::addSummary() {
         row->addWidget(new PicturePanel(name, PicturePanel::Place::Under, page), 1);
     }
     column->addLayout(row);
-    addText(*column, new CaptionLabel(u"lblSummary"_s, page));
+    column->addWidget(new CaptionLabel(u"lblSummary"_s, page), 1);
 }
 
 void ProfileTabs::addDirections() {
@@ -127,7 +120,7 @@ void ProfileTabs::addElements() {
     column->setContentsMargins(betweenGroups, betweenGroups, betweenGroups, betweenGroups);
     column->setSpacing(betweenGroups);
     column->addWidget(new PicturePanel(u"vsElement"_s, PicturePanel::Place::Beside, page));
-    addText(*column, new CaptionLabel(u"lblElementDescription"_s, page));
+    column->addWidget(new CaptionLabel(u"lblElementDescription"_s, page), 1);
 }
 
 void ProfileTabs::setAccent(const std::optional<QColor>& color) {

@@ -101,6 +101,7 @@ void grabWindows(frmView& mainWindow, const QString& folder, const QString& suff
     for (const auto& [page, name] :
          {std::pair(1, "main-window-directions"), std::pair(2, "main-window-elements")}) {
         pages->setCurrentIndex(page);
+        QApplication::processEvents();
         save(mainWindow.grab().toImage(), path(QString::fromLatin1(name)));
     }
     pages->setCurrentIndex(0);

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 ElidedLabel::ElidedLabel(QWidget* parent)
@@ -31,7 +32,7 @@ QString ElidedLabel::shownText() const {
 }
 
 QRect ElidedLabel::textRect() const {
-    return contentsRect().adjusted(margin_, 0, -margin_, 0);
+    return QStyle::visualRect(layoutDirection(), rect(), contentsRect().adjusted(margin_, 0, -margin_, 0));
 }
 
 QSize ElidedLabel::sizeHint() const {
@@ -51,8 +52,10 @@ void ElidedLabel::paintEvent(QPaintEvent* event) {
     QFrame::paintEvent(event);
     QPainter painter(this);
     painter.setPen(textColor());
+    // Absolute, as the painter would mirror by the text's direction, not the window's.
     const Qt::Alignment start = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
-    painter.drawText(textRect(), static_cast<int>(start | Qt::AlignVCenter) | Qt::TextSingleLine,
+    painter.drawText(textRect(),
+                     static_cast<int>(start | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
                      shownText());
 }
 

@@ -103,7 +103,10 @@ void PicturePanel::paintCaption(QPainter& painter) const {
     const QString leadIn = shownCaption(leadIn_);
     const QString value = unbrokenAtHyphens(shownCaption(value_));
     QTextLayout layout(leadIn + value, font());
-    QTextOption option(captionPlace_ == Place::Under ? Qt::AlignHCenter : Qt::AlignLeading);
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    QTextOption option(captionPlace_ == Place::Under ? Qt::AlignHCenter
+                       : mirrored                    ? Qt::AlignRight
+                                                     : Qt::AlignLeft);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTextDirection(layoutDirection());
     layout.setTextOption(option);

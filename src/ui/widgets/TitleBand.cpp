@@ -52,8 +52,7 @@ void TitleBand::addWidget(QWidget* widget) {
     }
     static_cast<QHBoxLayout*>(layout())->addWidget(widget);
     const int taken = layout()->minimumSize().width() - windowEdge;
-    const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    setContentsMargins(mirrored ? taken : 0, 0, mirrored ? 0 : taken, 0);
+    setContentsMargins(0, 0, taken, 0);
     colorWidgets();
 }
 

@@ -9,6 +9,8 @@
 #include <QToolTip>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 TEST(TitleBand, setCaption_showsADoubledAmpersandOnce) {
     TitleBand band;
     band.setCaption(captionText(QStringLiteral("Smith & Sons")));
@@ -77,4 +79,28 @@ TEST(TitleBand, addWidget_standsAtTheEndAndTheTitleStopsBeforeIt) {
     EXPECT_EQ(label->geometry().right(), 400 - 24 - 1);
     EXPECT_LE(24 + band.fontMetrics().horizontalAdvance(band.shownText()), label->x());
     EXPECT_EQ(label->palette().color(QPalette::WindowText), band.textColor());
+}
+
+TEST(TitleBand, rightToLeft_titleBeginsAtTheRightAndTheWidgetStandsLeft) {
+    TitleBand band;
+    band.setLayoutDirection(Qt::RightToLeft);
+    auto* label = new QLabel;
+    label->setFixedSize(100, 60);
+    band.addWidget(label);
+    band.resize(400, band.sizeHint().height());
+    band.setCaption(QStringLiteral("HH"));
+    const QImage image = band.grab().toImage();
+    EXPECT_EQ(label->x(), 24);
+    int leftmost = image.width();
+    int rightmost = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == band.textColor()) {
+                leftmost = std::min(leftmost, x);
+                rightmost = std::max(rightmost, x);
+            }
+        }
+    }
+    EXPECT_GT(leftmost, 300);
+    EXPECT_LT(rightmost, 400 - 24);
 }
