@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QPushButton>
 #include <QSplitter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -78,6 +79,14 @@ PreviewWidget* CompassReportWindow::buildPane(const QString& name, const QString
     return pane;
 }
 
+int CompassReportWindow::compassWidth() const {
+    constexpr double zoom = 0.38; // that of every compass pane
+    constexpr double twipsPerInch = 1440;
+    constexpr int deskEdges = 2 * 24;
+    const int page = qRound(compass_.pageSize().width() / twipsPerInch * logicalDpiX() * zoom);
+    return page + deskEdges + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+}
+
 QWidget* CompassReportWindow::buildPanes() {
     auto* panes = new QSplitter(Qt::Horizontal, this);
     panes->setObjectName(QStringLiteral("panes"));
@@ -86,6 +95,7 @@ QWidget* CompassReportWindow::buildPanes() {
     panes->setHandleWidth(between);
     vpCompass = buildPane(QStringLiteral("vpCompass"), tr("Compass"), compass_);
     vpReport = buildPane(QStringLiteral("vpReport"), tr("Report"), report_);
+    vpCompass->setMinimumWidth(compassWidth());
     panes->addWidget(vpCompass);
     panes->addWidget(vpReport);
     panes->setStretchFactor(0, compassShare);

@@ -65,6 +65,8 @@ private:
     void cmdClose_Click();
 
     QWidget* buildPanes();
+    /// What the compass needs to be seen whole, however narrow the window.
+    [[nodiscard]] int compassWidth() const;
     QWidget* buildStrip();
     PreviewWidget* buildPane(const QString& name, const QString& accessibleName, PageSurface& surface);
 

@@ -39,8 +39,20 @@ TEST_F(ReportBrowserTest, tab_goesFromTopLeftToBottomRightThroughNamedControls) 
     });
 }
 
+TEST_F(ReportBrowserTest, compass_isSeenWholeInTheSmallestWindow) {
+    showProfiles([](QWidget& window) {
+        window.resize(window.minimumSize());
+        QApplication::processEvents();
+        const QRect page = compass(window).pageArea(0);
+        EXPECT_GE(page.left(), 0);
+        EXPECT_LE(page.right(), compass(window).viewport()->width());
+    });
+}
+
 TEST_F(ReportBrowserTest, compass_hasTwoFifthsOfTheWidth) {
     showProfiles([](QWidget& window) {
+        window.resize(1184, 800);
+        QApplication::processEvents();
         const double share = double(compass(window).width()) / window.width();
         EXPECT_NEAR(share, 0.4, 0.02);
         EXPECT_LT(compass(window).mapTo(&window, QPoint()).x(), report(window).mapTo(&window, QPoint()).x());
