@@ -15,9 +15,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QImage>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -70,13 +73,16 @@ QPalette darkPalette() {
     return palette;
 }
 
-/// Takes the picture of a modal window that `open` shows, and closes it.
-void grabModal(const std::function<void()>& open, const QString& path) {
+/// Takes the picture of a modal window that `open` shows, after `use` has used it, and closes it.
+void grabModal(
+    const std::function<void()>& open, const QString& path,
+    const std::function<void(QWidget&)>& use = [](QWidget&) {}) {
     QTimer::singleShot(300, [&] {
         QWidget* window = QApplication::activeModalWidget();
         if (window == nullptr) {
             stop(QStringLiteral("no window came for ") + path);
         }
+        use(*window);
         save(window->grab().toImage(), path);
         window->close();
     });
@@ -89,6 +95,31 @@ void grabCompassViews(const QString& homePath, const QString& roomPath) {
     Global::CurrentFloorID = 1;
     grabModal([] { frmSetDirection().SetDirection(); }, homePath);
     grabModal([] { frmRoomDirection().ShowDirection(QStringLiteral("Dining Room"), diningRoom); }, roomPath);
+}
+
+/// The windows that tell of people and of time, each with its report.
+void grabAdvice(frmView& mainWindow, const std::function<QString(const QString&)>& path) {
+    const auto grab = [&](const QString& entry, const QString& name,
+                          const std::function<void(QWidget&)>& use) {
+        grabModal([&] { mainWindow.findChild<QAction*>(entry)->trigger(); }, path(name),
+                  [&](QWidget& window) {
+                      window.resize(1040, 720); // more than the screen that is not there has
+                      use(window);
+                  });
+    };
+    const auto advise = [](QWidget& window) {
+        window.findChild<QLineEdit*>(QStringLiteral("txtMoveDate"))->setText(QStringLiteral("3/15/2027"));
+        window.findChild<QPushButton*>(QStringLiteral("cmdAdvise0"))->click();
+    };
+    grab(QStringLiteral("mnuAdviceProfile"), QStringLiteral("profile-report"), [](QWidget&) {});
+    grab(QStringLiteral("mnuAdviceNineKi"), QStringLiteral("year-chart"), advise);
+    grab(QStringLiteral("mnuAdviceMoving"), QStringLiteral("moving-directions"), advise);
+    grab(QStringLiteral("mnuAdviceMoving"), QStringLiteral("moving-years"), [](QWidget& window) {
+        window.findChild<QTabWidget*>(QStringLiteral("tabMoving"))->setCurrentIndex(1);
+        window.findChild<QComboBox*>(QStringLiteral("cboDirection"))
+            ->setCurrentText(QStringLiteral("South-East"));
+        window.findChild<QPushButton*>(QStringLiteral("cmdAdvise1"))->click();
+    });
 }
 
 void grabWindows(frmView& mainWindow, const QString& folder, const QString& suffix) {
@@ -108,6 +139,7 @@ void grabWindows(frmView& mainWindow, const QString& folder, const QString& suff
     grabModal([&] { mainWindow.findChild<QAction*>(QStringLiteral("mnuAdviceRooms"))->trigger(); },
               path(QStringLiteral("room-report")));
     grabCompassViews(path(QStringLiteral("set-direction")), path(QStringLiteral("room-direction")));
+    grabAdvice(mainWindow, path);
 }
 
 /// The first page of the home's report as it comes out of the printer, at 96 dots to the inch.
