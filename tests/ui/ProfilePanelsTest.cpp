@@ -213,3 +213,12 @@ TEST_F(ProfilePanelsTest, blankAndFilledPanels_takeTheSameRoom) {
     QCoreApplication::processEvents();
     EXPECT_EQ(places(), filled);
 }
+
+TEST_F(ProfilePanelsTest, longNameInTheBand_stopsBeforeTheTrigram) {
+    ProfileWorld::start();
+    pane_.rename(QString(500, u'n'));
+    pane_.click("cmdSaveProfile");
+    const auto& band = pane_.at<TitleBand>("vsTopProfile");
+    EXPECT_TRUE(band.shownText().endsWith(QChar(0x2026)));
+    EXPECT_LT(24 + band.fontMetrics().horizontalAdvance(band.shownText()), pane_.panel("vsTrigram").x());
+}

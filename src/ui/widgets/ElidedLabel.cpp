@@ -27,21 +27,30 @@ void ElidedLabel::setTextMargin(int pixels) {
     update();
 }
 
+void ElidedLabel::setEndRoom(int pixels) {
+    endRoom_ = pixels;
+    updateGeometry();
+    update();
+}
+
 QString ElidedLabel::shownText() const {
     return fontMetrics().elidedText(text_, Qt::ElideRight, textRect().width());
 }
 
 QRect ElidedLabel::textRect() const {
-    return QStyle::visualRect(layoutDirection(), rect(), contentsRect().adjusted(margin_, 0, -margin_, 0));
+    return QStyle::visualRect(layoutDirection(), rect(),
+                              contentsRect().adjusted(margin_, 0, -margin_ - endRoom_, 0));
 }
 
 QSize ElidedLabel::sizeHint() const {
     const int frame = 2 * frameWidth();
-    return {fontMetrics().horizontalAdvance(text_) + 2 * margin_ + frame + 1, fontMetrics().height() + frame};
+    return {fontMetrics().horizontalAdvance(text_) + 2 * margin_ + endRoom_ + frame + 1,
+            fontMetrics().height() + frame};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-    return {2 * margin_ + fontMetrics().horizontalAdvance(QStringLiteral("\u2026")), sizeHint().height()};
+    return {2 * margin_ + endRoom_ + fontMetrics().horizontalAdvance(QStringLiteral("\u2026")),
+            sizeHint().height()};
 }
 
 QColor ElidedLabel::textColor() const {

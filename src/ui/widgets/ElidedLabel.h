@@ -18,6 +18,9 @@ public:
     /// Blank space to the left and right of the text, in logical pixels.
     void setTextMargin(int pixels);
 
+    /// Room at the text's end that it leaves free, in logical pixels.
+    void setEndRoom(int pixels);
+
     /// What the widget shows at its present width.
     [[nodiscard]] QString shownText() const;
 
@@ -35,4 +38,5 @@ private:
 
     QString text_;
     int margin_ = 8;
+    int endRoom_ = 0;
 };

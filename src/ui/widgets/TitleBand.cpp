@@ -45,14 +45,12 @@ void TitleBand::setAccent(const std::optional<QColor>& color) {
 
 void TitleBand::addWidget(QWidget* widget) {
     if (layout() == nullptr) {
-        setAttribute(Qt::WA_LayoutOnEntireRect);
         auto* row = new QHBoxLayout(this);
         row->setContentsMargins(windowEdge, besideWidgets, windowEdge, besideWidgets);
         row->addStretch(1);
     }
     static_cast<QHBoxLayout*>(layout())->addWidget(widget);
-    const int taken = layout()->minimumSize().width() - windowEdge;
-    setContentsMargins(0, 0, taken, 0);
+    setEndRoom(layout()->minimumSize().width() - windowEdge);
     colorWidgets();
 }
 
