@@ -220,6 +220,7 @@ void frmNineKi::Form_Load() {
         restore();
         {
             const QSignalBlocker filling(cboDirection);
+            cboDirection->clear();
             cboDirection->addItems(NineKiReports::directionChoices());
             cboDirection->setCurrentIndex(-1);
         }
