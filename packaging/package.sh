@@ -21,7 +21,7 @@ trap 'rm -rf "$stage"' EXIT
 # no unpacking and no upgrade can put them over a user's records.
 shipped=$stage/shipped
 cmake --install "$build" --prefix "$shipped" >/dev/null
-strip "$shipped/talivane"
+[ -n "${TALIVANE_KEEP_SYMBOLS:-}" ] || strip "$shipped/talivane"
 mkdir "$shipped/empty"
 for record in Floors Locations Profiles Rooms; do
     mv "$shipped/$record.xml" "$shipped/empty/"
