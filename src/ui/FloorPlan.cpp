@@ -59,7 +59,7 @@ FloorPlan::FloorPlan(ViewFrame& frame, const ComboList& floors, QWidget* parent)
     picFloorPlan = &vsRight->plan();
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
-    constexpr int fifth = 1000;
+    constexpr int fifth = 200;
     setSizes({fifth, 4 * fifth});
     readOut_->setObjectName(u"lblRoomPlace"_s);
     readOut_->setAccessibleName(tr("Place of the room"));
@@ -111,8 +111,8 @@ PlanRoom& FloorPlan::createRoom() {
     QWidget::setTabOrder(recRoom.empty() ? static_cast<QWidget*>(lstRooms) : recRoom.back(), room);
     recRoom.push_back(room);
     connect(room, &PlanRoom::mouseDown, this,
-            [this, index](Qt::MouseButton button, QPointF within, QPointF onScreen) {
-                recRoom_MouseDown(index, button, within, onScreen);
+            [this, index](Qt::MouseButton button, QPointF onPlan, QPoint onScreen) {
+                recRoom_MouseDown(index, button, onPlan, onScreen);
             });
     connect(room, &PlanRoom::mouseMoved, this, &FloorPlan::recRoom_MouseMove);
     connect(room, &PlanRoom::mouseUp, this, &FloorPlan::recRoom_MouseUp);

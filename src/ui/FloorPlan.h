@@ -76,6 +76,7 @@ private:
     /// A room in the user's hand, from the press of the button on.
     struct Drag {
         PlanRoom* room;
+        /// In pixels of the plan.
         QPointF pressedAt;
         float left;
         float top;
@@ -95,12 +96,12 @@ private:
     void lstRooms_DblClick();
     void recRoom_Click(qint32 Index);
     void recRoom_DblClick(qint32 Index);
-    void recRoom_MouseDown(qint32 Index, Qt::MouseButton Button, QPointF within, QPointF onScreen);
-    void recRoom_MouseMove(QPointF onScreen);
-    void recRoom_MouseUp(Qt::MouseButton Button, QPointF onScreen);
+    void recRoom_MouseDown(qint32 Index, Qt::MouseButton Button, QPointF onPlan, QPoint onScreen);
+    void recRoom_MouseMove(QPointF onPlan);
+    void recRoom_MouseUp(Qt::MouseButton Button, QPointF onPlan);
     void recRoom_KeyDown(QKeyEvent& event);
-    void recRoom_DragDrop(qint32 Index, PlanRoom& Source, double X, double Y);
-    void picFloorPlan_DragDrop(PlanRoom& Source, double X, double Y);
+    void recRoom_DragDrop(qint32 Index, PlanRoom& Source, float X, float Y);
+    void picFloorPlan_DragDrop(PlanRoom& Source, float X, float Y);
     void cmdPlus_Click();
     void cmdMinus_Click();
 

@@ -49,7 +49,7 @@ void FloorPlan::recRoom_DblClick(qint32 Index) {
     });
 }
 
-void FloorPlan::recRoom_MouseDown(qint32 Index, Qt::MouseButton Button, QPointF within, QPointF onScreen) {
+void FloorPlan::recRoom_MouseDown(qint32 Index, Qt::MouseButton Button, QPointF onPlan, QPoint onScreen) {
     passOver([&] {
         if (drag_) {
             return; // the room is in the user's hand already
@@ -57,33 +57,35 @@ void FloorPlan::recRoom_MouseDown(qint32 Index, Qt::MouseButton Button, QPointF 
         rooms_->setListIndex(Index);
         CurrentRoomControl = recRoom.at(static_cast<std::size_t>(Index));
         if (Button != Qt::LeftButton) {
-            Q_EMIT menuWanted(onScreen.toPoint());
+            Q_EMIT menuWanted(onScreen);
             return;
         }
-        GrabX = Conversion::toLong(within.x());
-        GrabY = Conversion::toLong(within.y());
-        drag_ =
-            Drag{CurrentRoomControl, onScreen, CurrentRoomControl->Left(), CurrentRoomControl->Top(), false};
+        const PlanRoom& held = *CurrentRoomControl;
+        const QPointF inches = picFloorPlan->toPlan(onPlan);
+        GrabX = Conversion::toLong(inches.x() - static_cast<double>(held.Left()));
+        GrabY = Conversion::toLong(inches.y() - static_cast<double>(held.Top()));
+        drag_ = Drag{CurrentRoomControl, onPlan, held.Left(), held.Top(), false};
     });
 }
 
-void FloorPlan::recRoom_MouseMove(QPointF onScreen) {
+void FloorPlan::recRoom_MouseMove(QPointF onPlan) {
     // A trembling hand does not move the room that it clicks; beyond that every pixel counts.
     constexpr double tremor = 3;
     if (!drag_) {
         return;
     }
-    if (!drag_->moving && (onScreen - drag_->pressedAt).manhattanLength() < tremor) {
+    if (!drag_->moving && (onPlan - drag_->pressedAt).manhattanLength() < tremor) {
         return;
     }
     drag_->moving = true;
     drag_->room->setCursor(Qt::ClosedHandCursor);
-    const QPointF onPlan = picFloorPlan->toPlan(picFloorPlan->mapFromGlobal(onScreen));
-    drag_->room->Move(static_cast<float>(onPlan.x() - GrabX), static_cast<float>(onPlan.y() - GrabY));
+    const QPointF inches = picFloorPlan->toPlan(onPlan);
+    drag_->room->Move(static_cast<float>(inches.x()) - static_cast<float>(GrabX),
+                      static_cast<float>(inches.y()) - static_cast<float>(GrabY));
     showPlace();
 }
 
-void FloorPlan::recRoom_MouseUp(Qt::MouseButton Button, QPointF onScreen) {
+void FloorPlan::recRoom_MouseUp(Qt::MouseButton Button, QPointF onPlan) {
     if (!drag_ || Button != Qt::LeftButton) {
         return;
     }
@@ -94,16 +96,16 @@ void FloorPlan::recRoom_MouseUp(Qt::MouseButton Button, QPointF onScreen) {
         recRoom_Click(source.Index());
         return;
     }
-    const QPointF pixels = picFloorPlan->mapFromGlobal(onScreen);
-    if (!QRectF(picFloorPlan->rect()).contains(pixels)) {
+    if (!QRectF(picFloorPlan->rect()).contains(onPlan)) {
         return; // dropped beside the plan, where nothing takes it
     }
-    const QPointF onPlan = picFloorPlan->toPlan(pixels);
-    if (const PlanRoom* under = roomUnder(pixels.toPoint()); under != nullptr) {
-        recRoom_DragDrop(under->Index(), source, onPlan.x() - static_cast<double>(under->Left()),
-                         onPlan.y() - static_cast<double>(under->Top()));
+    const QPointF inches = picFloorPlan->toPlan(onPlan);
+    const auto X = static_cast<float>(inches.x());
+    const auto Y = static_cast<float>(inches.y());
+    if (const PlanRoom* under = roomUnder(onPlan.toPoint()); under != nullptr) {
+        recRoom_DragDrop(under->Index(), source, X - under->Left(), Y - under->Top());
     } else {
-        picFloorPlan_DragDrop(source, onPlan.x(), onPlan.y());
+        picFloorPlan_DragDrop(source, X, Y);
     }
 }
 
@@ -124,17 +126,17 @@ void FloorPlan::cancelDrag() {
     showPlace();
 }
 
-void FloorPlan::recRoom_DragDrop(qint32 Index, PlanRoom& Source, double X, double Y) {
+void FloorPlan::recRoom_DragDrop(qint32 Index, PlanRoom& Source, float X, float Y) {
     routine(u"frmView.recRoom_DragDrop", [&] {
         const PlanRoom& target = *recRoom.at(static_cast<std::size_t>(Index));
-        drop(Source, static_cast<float>(static_cast<double>(target.Left()) + X - GrabX),
-             static_cast<float>(static_cast<double>(target.Top()) + Y - GrabY));
+        drop(Source, target.Left() + X - static_cast<float>(GrabX),
+             target.Top() + Y - static_cast<float>(GrabY));
     });
 }
 
-void FloorPlan::picFloorPlan_DragDrop(PlanRoom& Source, double X, double Y) {
+void FloorPlan::picFloorPlan_DragDrop(PlanRoom& Source, float X, float Y) {
     routine(u"frmView.picFloorPlan_DragDrop",
-            [&] { drop(Source, static_cast<float>(X - GrabX), static_cast<float>(Y - GrabY)); });
+            [&] { drop(Source, X - static_cast<float>(GrabX), Y - static_cast<float>(GrabY)); });
 }
 
 /// Puts a room in its new place, on the screen and in the file.

@@ -124,17 +124,15 @@ void PlanRoom::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void PlanRoom::mousePressEvent(QMouseEvent* event) {
-    const QPointF onPlan = plan_.toPlan(plan_.mapFromGlobal(event->globalPosition()));
-    Q_EMIT mouseDown(event->button(), onPlan - QPointF(static_cast<double>(left_), static_cast<double>(top_)),
-                     event->globalPosition());
+    Q_EMIT mouseDown(event->button(), mapToParent(event->position()), event->globalPosition().toPoint());
 }
 
 void PlanRoom::mouseMoveEvent(QMouseEvent* event) {
-    Q_EMIT mouseMoved(event->globalPosition());
+    Q_EMIT mouseMoved(mapToParent(event->position()));
 }
 
 void PlanRoom::mouseReleaseEvent(QMouseEvent* event) {
-    Q_EMIT mouseUp(event->button(), event->globalPosition());
+    Q_EMIT mouseUp(event->button(), mapToParent(event->position()));
 }
 
 void PlanRoom::mouseDoubleClickEvent(QMouseEvent* event) {

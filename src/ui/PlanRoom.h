@@ -42,10 +42,10 @@ public:
     static const QColor selectionColor;
 
 Q_SIGNALS:
-    /// `within` is measured from the room's corner, in inches; `onScreen` in pixels.
-    void mouseDown(Qt::MouseButton button, QPointF within, QPointF onScreen);
-    void mouseMoved(QPointF onScreen);
-    void mouseUp(Qt::MouseButton button, QPointF onScreen);
+    /// `onPlan` is a point of the plan's widget; the room itself may move under the mouse.
+    void mouseDown(Qt::MouseButton button, QPointF onPlan, QPoint onScreen);
+    void mouseMoved(QPointF onPlan);
+    void mouseUp(Qt::MouseButton button, QPointF onPlan);
     void doubleClicked();
     /// The key that opens a menu was pressed.
     void menuKeyPressed(QPoint onScreen);

@@ -4,8 +4,8 @@
 #include "support/RecordFiles.h"
 #include "support/TestWorld.h"
 #include "support/WindowDriver.h"
+#include "ui/PaneJournal.h"
 #include "ui/ProfilePane.h"
-#include "ui/ViewFrame.h"
 #include "ui/widgets/RecordList.h"
 
 #include <QLineEdit>
@@ -17,97 +17,12 @@ using namespace WindowDriver;
 
 namespace {
 
-/// What the pane did, step by step. The record file and the mode tell nothing of themselves, so that each
-/// step looks first whether they changed before it.
-class Journal {
-public:
-    explicit Journal(const TestWorld& world)
-        : world_(world) {}
-
-    const QString* mode = nullptr;
-
-    void note(const QString& step) {
-        noteSilentChanges();
-        steps_ << step;
-    }
-    /// The steps since the last call.
-    QStringList take() {
-        noteSilentChanges();
-        return std::exchange(steps_, {});
-    }
-
-private:
-    void noteSilentChanges() {
-        const QByteArray records = world_.read(u"Profiles.xml"_s);
-        if (std::exchange(records_, records) != records) {
-            steps_ << u"file saved"_s;
-        }
-        if (mode != nullptr && *mode != mode_) {
-            mode_ = *mode;
-            steps_ << u"mode "_s + mode_;
-        }
-    }
-
-    const TestWorld& world_;
-    QStringList steps_;
-    QByteArray records_;
-    QString mode_;
-};
-
-/// Settings that note every write.
-class NotedSettings final : public SettingsStore {
-public:
-    NotedSettings(MemorySettings& settings, Journal& journal)
-        : settings_(settings)
-        , journal_(journal) {}
-    std::optional<SettingValue> value(const QString& section, const QString& name) const override {
-        return settings_.value(section, name);
-    }
-    bool setValue(const QString& section, const QString& name, const SettingValue& value) override {
-        journal_.note(name + u'=' + QString::fromUtf8(value.data.chopped(1)));
-        return settings_.setValue(section, name, value);
-    }
-    bool removeValue(const QString& section, const QString& name) override {
-        return settings_.removeValue(section, name);
-    }
-    bool removeKey(const QString& section, const QString& child) override {
-        return settings_.removeKey(section, child);
-    }
-    QList<QString> keys(const QString& section) const override { return settings_.keys(section); }
-    QList<NamedSetting> values(const QString& section) const override { return settings_.values(section); }
-
-private:
-    MemorySettings& settings_;
-    Journal& journal_;
-};
-
-/// A main window of which the pane sees nothing but this.
-class NotedFrame final : public ViewFrame {
-public:
-    explicit NotedFrame(Journal& journal)
-        : journal_(journal) {}
-    void setPanel(Pane /*pane*/, const QString& name) override { journal_.note(u"panel "_s + name); }
-    void setEntryEnabled(const QString& name, bool enabled) override {
-        if (name == u"mnuProfilesSave" || name == u"mnuAdviceProfile") {
-            journal_.note(name + (enabled ? u" on"_s : u" off"_s));
-        }
-    }
-    void connectEntry(const QString& /*name*/, std::function<void()> /*handler*/) override {}
-    void pressButton(Pane pane) override {
-        journal_.note(pane == Pane::Profile ? u"button PROFILE"_s : u"button LOCATION"_s);
-    }
-    void popUpLocations(const QPoint& /*onScreen*/) override {}
-
-private:
-    Journal& journal_;
-};
-
 class ProfilePaneOrderTest : public testing::Test {
 protected:
     TestWorld world_{TestWorld::Records::Sample};
-    Journal journal_{world_};
+    Journal journal_{world_, u"Profiles.xml"_s};
     NotedSettings settings_{world_.settings, journal_};
-    NotedFrame frame_{journal_};
+    NotedFrame frame_{journal_, {u"mnuProfilesSave"_s, u"mnuAdviceProfile"_s}};
     std::unique_ptr<ProfilePane> pane_ = std::make_unique<ProfilePane>(frame_);
     const QStringList newState_{u"mnuProfilesSave on"_s, u"mnuAdviceProfile off"_s};
     const QStringList openState_{u"mnuProfilesSave off"_s, u"mnuAdviceProfile on"_s};
