@@ -1,0 +1,114 @@
+#include "pictures/WindowPictures.h"
+
+#include "pictures/PictureFile.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTabWidget>
+#include <QTimer>
+
+namespace {
+
+/// A picture, and the steps that lead to it from the main window, each in the window that the one before has
+/// opened: a menu entry or button is pressed, an entry of a list or a page of a tab chosen by its number
+/// ("tabs=2"), a text entered or chosen ("date=3/15/2027").
+struct WindowPicture {
+    const char* name;
+    QStringList steps;
+};
+
+const QString profiles = QStringLiteral("PROFILE");
+const QString homes = QStringLiteral("LOCATION");
+
+QList<WindowPicture> windowPictures() {
+    const QString rooms = QStringLiteral("lstRooms=1");
+    const QString openRoom = QStringLiteral("mnuLocationsOpenRoom");
+    const QString date = QStringLiteral("txtMoveDate=3/15/2027");
+    const QString advise = QStringLiteral("cmdAdvise0");
+    const QString years = QStringLiteral("tabMoving=1");
+    const QString direction = QStringLiteral("cboDirection=South-East");
+    const QString adviseYears = QStringLiteral("cmdAdvise1");
+    return {
+        {"main-window", {profiles, QStringLiteral("tabProfile=0")}},
+        {"main-window-directions", {profiles, QStringLiteral("tabProfile=1")}},
+        {"main-window-elements", {profiles, QStringLiteral("tabProfile=2")}},
+        {"main-window-home", {homes}},
+        {"calendar", {profiles, QStringLiteral("cmdDate")}},
+        {"room-report", {QStringLiteral("mnuAdviceRooms")}},
+        {"profile-report", {QStringLiteral("mnuAdviceProfile")}},
+        {"element-report", {QStringLiteral("mnuAdviceElement")}},
+        {"moving-directions", {QStringLiteral("mnuAdviceMoving"), date, advise}},
+        {"moving-years", {QStringLiteral("mnuAdviceMoving"), years, direction, adviseYears}},
+        {"renovation-areas", {QStringLiteral("mnuAdviceRenovations"), date, advise}},
+        {"renovation-years", {QStringLiteral("mnuAdviceRenovations"), years, direction, adviseYears}},
+        {"year-chart", {QStringLiteral("mnuAdviceNineKi"), date, advise}},
+        {"room-editor", {homes, rooms, openRoom}},
+        {"room-editor-new", {homes, QStringLiteral("mnuLocationsNewRoom")}},
+        {"room-direction", {homes, rooms, openRoom, QStringLiteral("cmdCompass")}},
+        {"set-direction", {homes, QStringLiteral("mnuLocationsDirections")}},
+        {"about", {QStringLiteral("mnuAbout")}},
+    };
+}
+
+/// Presses, selects or turns to what a step names.
+void perform(QWidget& window, const QString& step) {
+    const QString name = step.section(u'=', 0, 0);
+    const QString value = step.section(u'=', 1);
+    if (auto* action = window.findChild<QAction*>(name); action != nullptr) {
+        if (!action->isEnabled()) {
+            stop(step + QStringLiteral(" is disabled"));
+        }
+        action->trigger();
+    } else if (auto* button = window.findChild<QAbstractButton*>(name); button != nullptr) {
+        button->click();
+    } else if (auto* list = window.findChild<QListWidget*>(name); list != nullptr) {
+        list->setCurrentRow(value.toInt());
+    } else if (auto* tabs = window.findChild<QTabWidget*>(name); tabs != nullptr) {
+        tabs->setCurrentIndex(value.toInt());
+    } else if (auto* combo = window.findChild<QComboBox*>(name); combo != nullptr) {
+        combo->setCurrentText(value);
+    } else if (auto* text = window.findChild<QLineEdit*>(name); text != nullptr) {
+        text->setText(value);
+    } else {
+        stop(QStringLiteral("there is no ") + step);
+    }
+}
+
+void take(QWidget& window, QStringList steps, const QString& path) {
+    constexpr int untilLaidOut = 100;
+    while (!steps.isEmpty()) {
+        const QString step = steps.takeFirst();
+        bool opened = false;
+        QTimer watch;
+        watch.setSingleShot(true);
+        watch.callOnTimeout([&] {
+            QWidget* next = QApplication::activeModalWidget();
+            if (next == nullptr || next == &window) {
+                stop(QStringLiteral("no window came for ") + step);
+            }
+            opened = true;
+            take(*next, steps, path);
+            next->close();
+        });
+        watch.start(untilLaidOut);
+        perform(window, step);
+        if (opened) {
+            return;
+        }
+    }
+    QApplication::processEvents();
+    savePicture(window.grab().toImage(), path);
+}
+
+} // namespace
+
+void takeWindowPictures(QWidget& mainWindow, const QString& folder, const QString& suffix) {
+    for (const WindowPicture& picture : windowPictures()) {
+        take(mainWindow, picture.steps,
+             folder + u'/' + QString::fromLatin1(picture.name) + suffix + QStringLiteral(".png"));
+    }
+}
