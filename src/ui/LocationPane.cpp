@@ -46,6 +46,8 @@ void LocationPane::connectControls() {
     connect(ui_.cboLocation, &RecordList::chosen, this, &LocationPane::cboLocation_Click);
     connect(ui_.cboLocation, &RecordList::textTyped, this, &LocationPane::cboLocation_Change);
     connect(ui_.cboLocation, &RecordList::dropDown, this, &LocationPane::cboLocation_DropDown);
+    // Enter saves a changed name; without a change the button is off and nothing happens.
+    connect(ui_.cboLocation->lineEdit(), &QLineEdit::returnPressed, ui_.cmdSaveLocation, &QPushButton::click);
     connect(ui_.cboFloors, &QComboBox::currentIndexChanged, this, &LocationPane::cboFloors_Click);
     connect(ui_.cmdNewLocation, &QPushButton::clicked, this, &LocationPane::cmdNewLocation_Click);
     connect(ui_.cmdSaveLocation, &QPushButton::clicked, this, &LocationPane::cmdSaveLocation_Click);

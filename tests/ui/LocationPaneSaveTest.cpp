@@ -252,3 +252,15 @@ TEST_F(LocationPaneSaveTest, Directions_confirmed_disablesSave) {
     EXPECT_FALSE(enabled("cmdSaveLocation"));
     EXPECT_FALSE(entryEnabled("mnuLocationsSave"));
 }
+
+TEST_F(LocationPaneSaveTest, enterInTheListsText_savesAChangedNameOnly) {
+    start();
+    const QByteArray before = world_.read(u"Locations.xml"_s);
+    auto& list = control<RecordList>(*view_, "cboLocation");
+    QTest::keyClick(list.lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(world_.read(u"Locations.xml"_s), before);
+    rename(u"Ash"_s);
+    QTest::keyClick(list.lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(storedName(u"1"_s), u"Ash"_s);
+    EXPECT_EQ(band(), u"Ash"_s);
+}
