@@ -59,11 +59,18 @@ FloorPlan::FloorPlan(ViewFrame& frame, const ComboList& floors, QWidget* parent)
     picFloorPlan = &vsRight->plan();
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
-    constexpr int fifth = 200;
-    setSizes({fifth, 4 * fifth});
     readOut_->setObjectName(u"lblRoomPlace"_s);
     readOut_->setAccessibleName(tr("Place of the room"));
     createRoom();
+}
+
+void FloorPlan::showEvent(QShowEvent* event) {
+    QSplitter::showEvent(event);
+    // Shares given before the pane has its size are lost when it is laid out unseen.
+    if (!shared_) {
+        shared_ = true;
+        setSizes({width() / 5, width() - width() / 5});
+    }
 }
 
 void FloorPlan::buildZoom() {

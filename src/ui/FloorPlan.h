@@ -71,6 +71,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     /// A room in the user's hand, from the press of the button on.
@@ -126,4 +127,6 @@ private:
     qint32 GrabY = 0;
     PlanRoom* CurrentRoomControl = nullptr;
     std::optional<Drag> drag_;
+    /// List and plan were given their shares of the width.
+    bool shared_ = false;
 };
