@@ -51,9 +51,10 @@ void FloorPlan::recRoom_DblClick(qint32 Index) {
 
 void FloorPlan::recRoom_MouseDown(qint32 Index, Qt::MouseButton Button, QPointF onPlan, QPoint onScreen) {
     passOver([&] {
-        if (drag_) {
-            return; // the room is in the user's hand already
+        if (drag_ && Button != Qt::LeftButton) {
+            return; // a room is in the user's hand
         }
+        cancelDrag(); // one whose end another window has swallowed
         rooms_->setListIndex(Index);
         CurrentRoomControl = recRoom.at(static_cast<std::size_t>(Index));
         if (Button != Qt::LeftButton) {

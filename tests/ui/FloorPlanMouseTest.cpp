@@ -102,6 +102,25 @@ TEST_F(FloorPlanMouseTest, escape_endsTheDragWhereItBegan) {
     EXPECT_EQ(world_.read(u"Rooms.xml"_s), before);
 }
 
+TEST_F(FloorPlanMouseTest, otherButtonWhileDragging_isIgnored) {
+    press(at(100, 100));
+    moveTo(at(200, 200));
+    press(at(200, 200), Qt::RightButton);
+    EXPECT_FALSE(control<QMenu>(*view_, "mnuLocations").isVisible());
+    release(at(200, 200), Qt::RightButton);
+    release(at(200, 200));
+    expectPlace(u"1"_s, 160, 160);
+}
+
+TEST_F(FloorPlanMouseTest, dragWhoseEndIsLost_endsAtTheNextPress) {
+    press(at(100, 100));
+    moveTo(at(200, 200));
+    drag(at(350, 350), at(360, 380));
+    EXPECT_EQ(room(0).Left(), 60.0F);
+    EXPECT_EQ(stored(u"1"_s, u"LEFT"_s), u"60"_s);
+    expectPlace(u"2"_s, 310, 330);
+}
+
 TEST_F(FloorPlanMouseTest, failedSave_isReportedAndTheRoomStaysWhereItWasDropped) {
     world_.remove(u"Rooms.xml"_s);
     QDir().mkdir(world_.file(u"Rooms.xml"_s));
