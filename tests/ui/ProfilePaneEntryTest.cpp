@@ -1,5 +1,6 @@
 #include "core/Conversion.h"
 #include "core/ConversionWorld.h"
+#include "support/HostileNames.h"
 #include "ui/ProfileWorld.h"
 
 #include <QClipboard>
@@ -8,27 +9,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A name that a careless program breaks on.
-struct HostileName {
-    const char* kind;
-    QString name;
-};
-
-void PrintTo(const HostileName& name, std::ostream* stream) {
-    *stream << name.kind;
-}
-
-const HostileName hostileNames[] = {
-    {"quotes", u"Ann \"the\" O'Neil ``'"_s},
-    {"ampersands", u"A & B && C &amp; D &"_s},
-    {"angleBrackets", u"<b>Ann</b> <!-- ]]> <?x?>"_s},
-    {"fiveThousandCharacters", QString(5000, u'n')},
-    {"rightToLeft", u"\u05D0\u05E0\u05D4 \u0639\u0644\u064A"_s},
-    {"astral", u"Ann \U0001F9ED \U00020BB7"_s},
-    {"lineBreaks", u"Ann\nof the\r\nsecond line"_s},
-    {"tabsAndBlanks", u"  Ann\tB  "_s},
-};
 
 class ProfileNameTest : public testing::TestWithParam<HostileName> {
 protected:
