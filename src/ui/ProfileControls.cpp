@@ -1,6 +1,7 @@
 #include "ui/ProfileControls.h"
 
 #include "core/Failure.h"
+#include "core/windows/CalendarButton.h"
 #include "ui/PaneParts.h"
 #include "ui/PictureList.h"
 #include "ui/ProfilePanels.h"
@@ -15,7 +16,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
-#include <QToolButton>
 
 #include <algorithm>
 #include <initializer_list>
@@ -132,10 +132,8 @@ void ProfileControls::addFields(QWidget* parent, QGridLayout& grid) {
     grid.addWidget(makeLabel(u"lblBirthdate"_s, u"Enter Your Birthdate:"_s, parent), 1, 0);
     txtBirthDate = named(new QLineEdit(parent), u"txtBirthDate"_s, QObject::tr("Your birthdate"),
                          u"Enter your birthdate using the Western Calendar Years."_s);
-    cmdDate = named(new QToolButton(parent), u"cmdDate"_s,
+    cmdDate = named(new CalendarButton(u"cmdDate"_s, parent), u"cmdDate"_s,
                     QObject::tr("Choose your birthdate from a calendar"), {});
-    cmdDate->setText(u"..."_s);
-    cmdDate->setFocusPolicy(Qt::StrongFocus);
     auto* dateRow = new QHBoxLayout;
     dateRow->setSpacing(between);
     dateRow->addWidget(txtBirthDate, 1);

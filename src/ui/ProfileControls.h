@@ -15,7 +15,6 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
-class QToolButton;
 class QVBoxLayout;
 class QWidget;
 class RecordList;
@@ -31,7 +30,7 @@ public:
     RecordList* cboProfileName = nullptr;
     QLineEdit* txtProfileName = nullptr;
     QLineEdit* txtBirthDate = nullptr;
-    QToolButton* cmdDate = nullptr;
+    QPushButton* cmdDate = nullptr;
     QRadioButton* optFemale = nullptr;
     QRadioButton* optMale = nullptr;
     QLineEdit* txt9Ki = nullptr;

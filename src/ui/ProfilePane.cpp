@@ -19,7 +19,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -42,7 +41,7 @@ void ProfilePane::connectControls() {
     connect(ui_.txtBirthDate, &QLineEdit::textChanged, this, &ProfilePane::txtBirthDate_Change);
     connect(ui_.txtBirthDate, &QLineEdit::returnPressed, ui_.cmdCalcProfile, &QPushButton::click);
     connect(ui_.txt9Ki, &QLineEdit::textChanged, this, &ProfilePane::txt9Ki_Change);
-    connect(ui_.cmdDate, &QToolButton::clicked, this, &ProfilePane::cmdDate_Click);
+    connect(ui_.cmdDate, &QPushButton::clicked, this, &ProfilePane::cmdDate_Click);
     connect(ui_.cmdCalcProfile, &QPushButton::clicked, this, &ProfilePane::cmdCalcProfile_Click);
     connect(ui_.cmdNewProfile, &QPushButton::clicked, this, &ProfilePane::cmdNewProfile_Click);
     connect(ui_.cmdSaveProfile, &QPushButton::clicked, this, &ProfilePane::cmdSaveProfile_Click);

@@ -1,5 +1,6 @@
 #include "ui/ProfilePane.h"
 
+#include "core/windows/CalendarButton.h"
 #include "ui/ProfileWorld.h"
 
 #include <QTabWidget>
@@ -175,6 +176,13 @@ TEST_F(ProfilePaneTest, changesByTheProgram_doNotCount) {
     EXPECT_FALSE(pane_.enabled("cmdSaveProfile"));
     pane_.click("cmdNewProfile");
     EXPECT_FALSE(ProfileWorld::person().IsDirty);
+}
+
+TEST_F(ProfilePaneTest, cmdDate_isTheCalendarButtonOfAllDateFields) {
+    const auto& button = pane_.at<CalendarButton>("cmdDate");
+    EXPECT_EQ(button.text(), QString());
+    EXPECT_EQ(button.toolTip(), QString());
+    EXPECT_EQ(button.accessibleName(), u"Choose your birthdate from a calendar"_s);
 }
 
 TEST_F(ProfilePaneTest, cmdDate_writesTheChosenDateWhichCountsAsAChange) {
