@@ -172,6 +172,24 @@ void RoadTest::placeNewRoom(const EnteredRoom& room) {
     }));
 }
 
+void RoadTest::enterRooms(const QList<EnteredRoom>& rooms) {
+    int floor = 0;
+    for (const EnteredRoom& room : rooms) {
+        if (room.floor != floor) {
+            floor = room.floor;
+            chooseFloor(floor);
+        }
+        addRoom(room);
+        if (HasFatalFailure()) {
+            return;
+        }
+        placeNewRoom(room);
+        if (HasFatalFailure()) {
+            return;
+        }
+    }
+}
+
 void RoadTest::pointNorth(QPointF inWindow, const QString& button) {
     choose(FromEnd::SetDirections);
     focusWindow(u"Set Direction"_s);
@@ -228,9 +246,49 @@ void RoadTest::readAdvice(const QString& letter, const QString& title, const QBy
         EXPECT_GE(found, 0) << text.toStdString() << " is missing or out of order";
         at = std::max(found, at);
     }
-    EXPECT_TRUE(printPdf(title).startsWith("%PDF-"));
+    const QByteArray pdf = printPdf(title);
+    EXPECT_TRUE(pdf.startsWith("%PDF-"));
+    EXPECT_EQ(pdf.count("/Type /Page\n"), html.count("<section")) << "the files have other pages";
     press({u"Escape"_s});
     leaveWindow(title, mainWindow);
+}
+
+void RoadTest::expectPerson(int id, const QString& name, const CalculatedPerson& person) const {
+    SCOPED_TRACE(name.toStdString());
+    for (const Record& stored : records(u"Profiles.xml"_s)) {
+        if (stored.value(u"PROFILEID"_s).toInt() == id) {
+            EXPECT_EQ(stored.value(u"PROFILENAME"_s).toStdString(), name.toStdString());
+            EXPECT_EQ(stored.value(u"ADJBIRTHYEAR"_s).toInt(), person.adjustedYear);
+            EXPECT_EQ(stored.value(u"GENDER"_s).toStdString(), person.gender);
+            EXPECT_EQ(stored.value(u"KUANUMBER"_s).toInt(), person.number);
+            return;
+        }
+    }
+    ADD_FAILURE() << "no person " << id;
+}
+
+void RoadTest::expectCurrentPerson(const QByteArray& nameInHtml) {
+    press({u"alt+a"_s, u"p"_s});
+    focusWindow(u"Profiles"_s);
+    EXPECT_TRUE(saveHtml(u"Profiles"_s).contains("<title>" + nameInHtml + "</title>"));
+    press({u"Escape"_s});
+    leaveWindow(u"Profiles"_s, mainWindow);
+}
+
+void RoadTest::expectRooms(const QList<EnteredRoom>& entered) const {
+    const QList<Record> floors = records(u"Floors.xml"_s);
+    const QList<Record> stored = records(u"Rooms.xml"_s);
+    ASSERT_EQ(stored.size(), entered.size());
+    for (qsizetype i = 0; i < entered.size(); ++i) {
+        expectRoom(stored.at(i), entered.at(i), floors.value(entered.at(i).floor).value(u"FLOORID"_s));
+        EXPECT_EQ(stored.at(i).value(u"LOCATIONID"_s).toStdString(), "1");
+    }
+}
+
+void RoadTest::expectNorthAsClicked() const {
+    const Record home = records(u"Locations.xml"_s).value(0);
+    EXPECT_NEAR(home.value(u"NORTHOFFSET"_s).toDouble(),
+                angleOf(home.value(u"LABLEX"_s).toDouble(), home.value(u"LABLEY"_s).toDouble()), 1e-6);
 }
 
 void RoadTest::expectRoom(const Record& stored, const EnteredRoom& entered, const QString& floorId) const {

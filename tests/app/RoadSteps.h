@@ -11,6 +11,13 @@ struct EnteredPerson {
     bool female = false;
 };
 
+/// What follows from what is typed about a person.
+struct CalculatedPerson {
+    int adjustedYear = 0;
+    const char* gender = "";
+    int number = 0;
+};
+
 /// What is entered about a room. Kind, floor and flooring are the places in their lists, from 0.
 struct EnteredRoom {
     QString name;
@@ -55,6 +62,8 @@ protected:
     void addRoom(const EnteredRoom& room);
     /// Drags the selected room from the plan's top left corner, where a new one stands, to its place.
     void placeNewRoom(const EnteredRoom& room);
+    /// Enters rooms, sorted by their floors, with the first floor on show, and drags each into its place.
+    void enterRooms(const QList<EnteredRoom>& rooms);
     /// Points out North on the plan, in parts of the window's width and height, and presses a button.
     void pointNorth(QPointF inWindow, const QString& button);
 
@@ -74,11 +83,19 @@ protected:
 
     /// The area of the selected room on the screen; empty where none is to be seen.
     [[nodiscard]] QRect selectedRoom() const;
-    void expectRoom(const Record& stored, const EnteredRoom& entered, const QString& floorId) const;
+    void expectPerson(int id, const QString& name, const CalculatedPerson& person) const;
+    /// The report on people opens with the current one's, whose name stands over the HTML file.
+    void expectCurrentPerson(const QByteArray& nameInHtml);
+    /// Compares the rooms on the disk with what was entered, all but their places and directions.
+    void expectRooms(const QList<EnteredRoom>& entered) const;
+    /// The stored North is the angle of the stored click.
+    void expectNorthAsClicked() const;
     /// Compares each room's stored direction with where its middle lies from the home's, seen from North.
     void expectDirections() const;
 
 private:
+    void expectRoom(const Record& stored, const EnteredRoom& entered, const QString& floorId) const;
+
     int exports_ = 0;
     std::optional<QPoint> planCorner_;
 };
