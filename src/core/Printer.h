@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSizeF>
+#include <QString>
 
 #include <functional>
 
@@ -13,6 +14,8 @@ struct PrintableDocument {
     QSizeF pageSize;
     /// Paints a page (counted from 0) in twips, with the origin at the page's top left corner.
     std::function<void(QPainter&, qint32)> paint;
+    /// What the document is called in the printer's queue and in a PDF file.
+    QString title = {};
 };
 
 /// The system's printer, or a PDF file in its place.

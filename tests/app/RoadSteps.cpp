@@ -1,5 +1,7 @@
 #include "app/RoadSteps.h"
 
+#include "support/PdfText.h"
+
 #include <QDir>
 #include <QSet>
 
@@ -248,6 +250,8 @@ void RoadTest::readAdvice(const QString& letter, const QString& title, const QBy
     }
     const QByteArray pdf = printPdf(title);
     EXPECT_TRUE(pdf.startsWith("%PDF-"));
+    const qsizetype name = html.indexOf("<title>") + 7;
+    EXPECT_TRUE(pdf.contains("/Title " + pdfText(html.sliced(name, html.indexOf("</title>") - name))));
     EXPECT_EQ(pdf.count("/Type /Page\n"), html.count("<section")) << "the files have other pages";
     press({u"Escape"_s});
     leaveWindow(title, mainWindow);

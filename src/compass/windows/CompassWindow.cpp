@@ -33,15 +33,20 @@ CompassGeometry::PlanPoint storedClick(const cLocation& home) {
 }
 
 /// A page with a picture on it, inside the margins that every printer leaves.
-PrintableDocument printable(const PlanPicture& picture, QSizeF page, const QRectF& area) {
+PrintableDocument printable(const PlanPicture& picture, QSizeF page, const QRectF& area,
+                            const QString& title) {
     constexpr double twipsPerPoint = 20;
     constexpr int textPoints = 10;
-    return {.pageCount = 1, .pageSize = page, .paint = [&picture, area](QPainter& painter, qint32) {
-                QFont font;
-                font.setPixelSize(static_cast<int>(textPoints * twipsPerPoint));
-                paintPlan(painter, picture, area,
-                          {.lineWidth = twipsPerPoint, .font = font, .unitsPerPoint = twipsPerPoint});
-            }};
+    return {.pageCount = 1,
+            .pageSize = page,
+            .paint =
+                [&picture, area](QPainter& painter, qint32) {
+                    QFont font;
+                    font.setPixelSize(static_cast<int>(textPoints * twipsPerPoint));
+                    paintPlan(painter, picture, area,
+                              {.lineWidth = twipsPerPoint, .font = font, .unitsPerPoint = twipsPerPoint});
+                },
+            .title = title};
 }
 
 } // namespace
@@ -194,6 +199,6 @@ void CompassWindow::cmdPrint_Click() {
         page.FontSize = textSize;
         drawing_.PrintCompass(page, home.NORTHOFFSET, storedClick(home), chkColor->isChecked());
         drawing_.PrintRooms(page);
-        Global::service(&Services::printer).print(printable(page, pageSize, area));
+        Global::service(&Services::printer).print(printable(page, pageSize, area, home.DESCRIPTION));
     });
 }

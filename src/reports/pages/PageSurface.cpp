@@ -3,6 +3,7 @@
 #include "core/Global.h"
 #include "core/Printer.h"
 #include "reports/pages/DocumentFiles.h"
+#include "reports/pages/HtmlWriter.h"
 #include "reports/pages/PagePainter.h"
 
 #include <QScopedValueRollback>
@@ -138,9 +139,11 @@ void PageSurface::PrintDoc() {
         return;
     }
     Global::service(&Services::printer)
-        .print({PageCount(), document_.pageSize, [this](QPainter& painter, qint32 page) {
-                    paintPage(painter, document_, page, PaintTarget::Paper);
-                }});
+        .print({.pageCount = PageCount(),
+                .pageSize = document_.pageSize,
+                .paint = [this](QPainter& painter,
+                                qint32 page) { paintPage(painter, document_, page, PaintTarget::Paper); },
+                .title = titleOf(document_)});
 }
 
 void PageSurface::Write(const QString& text) {

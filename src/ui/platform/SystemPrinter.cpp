@@ -1,6 +1,7 @@
 #include "ui/platform/SystemPrinter.h"
 
 #include "core/Failure.h"
+#include "core/VersionRecord.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -90,6 +91,8 @@ void SystemPrinter::print(const PrintableDocument& document) {
     }
     QPrinter& printer = device();
     printer.setFullPage(true);
+    printer.setDocName(document.title);
+    printer.setCreator(VersionRecord::title.toString());
     const std::vector<qint32> pages = pageSequence(printer, document.pageCount);
     if (pages.empty()) {
         return;

@@ -31,6 +31,8 @@ public:
     void print(const PrintableDocument& document) override {
         ++documents;
         EXPECT_EQ(document.pageCount, 1);
+        EXPECT_EQ(document.title.toStdString(), Global::CurrentLocation->DESCRIPTION.toStdString());
+        EXPECT_FALSE(document.title.isEmpty());
         page = QImage((document.pageSize / twipsPerPixel).toSize(), QImage::Format_RGB32);
         page.fill(Qt::white);
         QPainter painter(&page);

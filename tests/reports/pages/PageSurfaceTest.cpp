@@ -198,9 +198,11 @@ TEST_F(PageSurfaceTest, PrintDoc_withoutADocument_printsNothing) {
 class PicturePrinter final : public Printer {
 public:
     std::vector<QImage> pages;
+    QString title;
 
     bool choose() override { return true; }
     void print(const PrintableDocument& document) override {
+        title = document.title;
         for (qint32 page = 0; page < document.pageCount; ++page) {
             QImage picture((document.pageSize / 40).toSize(), QImage::Format_RGB32);
             picture.fill(Qt::white);
@@ -219,12 +221,14 @@ TEST_F(PageSurfaceTest, PrintDoc_paintsEveryPageOnWhitePaper) {
     services.printer = &printer;
     Global::use(services);
     surface.BackColor(0x00FFFF);
+    surface.Header(QStringLiteral("The Kitchen"));
     surface.StartDoc();
     surface.NewPage();
     surface.BrushColor(0x0000FF);
     surface.DrawCircle(6000, 6000, 1000);
     surface.EndDoc();
     surface.PrintDoc();
+    EXPECT_EQ(printer.title.toStdString(), "The Kitchen");
     ASSERT_EQ(printer.pages.size(), 2U);
     EXPECT_EQ(printer.pages[0].pixelColor(150, 150), QColor(Qt::white));
     EXPECT_EQ(printer.pages[1].pixelColor(150, 150), QColor(Qt::red));

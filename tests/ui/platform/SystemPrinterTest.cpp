@@ -1,6 +1,7 @@
 #include "ui/platform/SystemPrinter.h"
 
 #include "core/Failure.h"
+#include "support/PdfText.h"
 
 #include <QFile>
 #include <QPainter>
@@ -45,6 +46,17 @@ TEST_F(SystemPrinterTest, print_allPagesInOrder) {
     printer_.print(document(3));
     EXPECT_EQ(painted_, (QList<qint32>{0, 1, 2}));
     EXPECT_EQ(pagesInFile(), 3);
+}
+
+TEST_F(SystemPrinterTest, print_namesTheDocumentAndTheProgramInTheFile) {
+    PrintableDocument named = document(1);
+    named.title = QStringLiteral("Room Report");
+    printer_.print(named);
+    QFile file(file_);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray pdf = file.readAll();
+    EXPECT_TRUE(pdf.contains("/Title " + pdfText("Room Report")));
+    EXPECT_TRUE(pdf.contains("/Creator " + pdfText("Talivane")));
 }
 
 TEST_F(SystemPrinterTest, print_aPageOfThePapersSize_keepsItsMeasures) {
