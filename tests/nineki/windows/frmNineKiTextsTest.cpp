@@ -1,4 +1,5 @@
 #include "nineki/windows/AdviceWorld.h"
+#include "support/HostileNames.h"
 
 using namespace WindowDriver;
 
@@ -115,3 +116,26 @@ TEST_P(frmNineKiTextsTest, escapeAndTheCloseControls_close) {
 
 INSTANTIATE_TEST_SUITE_P(modes, frmNineKiTextsTest, testing::ValuesIn(modes),
                          [](const auto& tested) { return std::string(tested.param.name); });
+
+// Names.
+
+class frmNineKiNamesTest : public AdviceWorld, public testing::WithParamInterface<HostileName> {};
+
+TEST_P(frmNineKiNamesTest, nameOfAnyLetters_isShownAndLeavesTheWindowItsSize) {
+    QSize usual;
+    showMove([&](QWidget& window) { usual = window.size(); });
+    Global::CurrentProfile->PROFILENAME = GetParam().name;
+    showMove([&](QWidget& window) {
+        const auto& label = control<ElidedLabel>(window, "lblProfile");
+        EXPECT_EQ(label.text(), GetParam().name);
+        EXPECT_FALSE(label.shownText().isEmpty());
+        EXPECT_EQ(window.size(), usual);
+        EXPECT_TRUE(window.rect().contains(label.geometry()));
+        typeDate(window, QStringLiteral("3/15/2027"));
+        click(window, "cmdAdvise0");
+        EXPECT_TRUE(report(window).startsWith(QStringLiteral("Directions to move for year 2027")));
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Hostile, frmNineKiNamesTest, testing::ValuesIn(hostileNames),
+                         [](const auto& tested) { return tested.param.kind; });
