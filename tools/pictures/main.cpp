@@ -53,7 +53,7 @@ void copyFiles(const QString& from, const QString& to) {
 /// Describes a screen on which every window has the size that it is designed in, at 200% as well. The path is
 /// that of the description.
 QString largeScreen(const QTemporaryDir& folder) {
-    const QString path = folder.filePath(QStringLiteral("screen.json"));
+    QString path = folder.filePath(QStringLiteral("screen.json"));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) ||
         file.write(R"({"screens": [{"name": "large", "x": 0, "y": 0, "width": 2880, "height": 2000,)"
