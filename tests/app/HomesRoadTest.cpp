@@ -34,10 +34,16 @@ protected:
         press({u"alt+c"_s});
         focusWindow(u"Room Directions"_s);
         picture(u"room-directions"_s);
+        EXPECT_TRUE(printPdf(u"Room Directions"_s).startsWith("%PDF-"));
         press({u"Escape"_s});
         leaveWindow(u"Room Directions"_s, u"Room"_s);
         press({u"Escape"_s});
         leaveWindow(u"Room"_s, mainWindow);
+        choose(FromEnd::SetDirections);
+        focusWindow(u"Set Direction"_s);
+        EXPECT_TRUE(printPdf(u"Set Direction"_s).startsWith("%PDF-"));
+        press({u"Escape"_s});
+        leaveWindow(u"Set Direction"_s, mainWindow);
     }
     /// Moves the room in hand by keys: an inch to the right and a foot down.
     void moveByKeys() {
@@ -68,10 +74,36 @@ protected:
         }));
         leaveWindow(u"Rename Floor"_s, mainWindow);
     }
+    /// Each press of a zoom button is stored, and the two take each other back.
+    void zoom() {
+        const QRect window = geometry(mainWindow);
+        const auto click = [&](int fromRight, const QString& extent) {
+            send(Input().click(window.topRight() + QPoint(-fromRight, 170)));
+            EXPECT_TRUE(await(u"plan of "_s + extent, [&] {
+                const Record home = records(u"Locations.xml"_s).first();
+                return home.value(u"PLANWIDTH"_s) == extent && home.value(u"PLANLENGTH"_s) == extent;
+            }));
+        };
+        click(40, u"500"_s);
+        click(78, u"600"_s);
+    }
+    void renameHome(const QString& name) {
+        constexpr QPoint onTheName(350, 138);
+        send(Input()
+                 .click(geometry(mainWindow).topLeft() + onTheName)
+                 .press({u"ctrl+a"_s})
+                 .type(name)
+                 .press({u"alt+s"_s}));
+        ASSERT_TRUE(await(u"the home's new name"_s, [&] {
+            return records(u"Locations.xml"_s).first().value(u"DESCRIPTION"_s) == name;
+        }));
+    }
     void takeDown() {
         choose(FromEnd::DeleteRoom);
         awaitRecords(u"Rooms.xml"_s, rooms.size() - 1);
         changeFloors();
+        zoom();
+        renameHome(u"Weir <House>"_s);
         chooseFloor(1);
         confirm(u"Delete Floor"_s, u"Floors.xml"_s, [this] { choose(FromEnd::DeleteFloor); });
         awaitRecords(u"Floors.xml"_s, 2);

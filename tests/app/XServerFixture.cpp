@@ -154,11 +154,16 @@ bool XServerTest::await(const QString& what, const std::function<bool()>& isSo) 
     QElapsedTimer waited;
     waited.start();
     while (!isSo()) {
+        if (lost_) {
+            return false; // who lost the way once need not wait again
+        }
         if (waited.elapsed() > patience) {
+            lost_ = true;
             ADD_FAILURE() << qPrintable(what) << ": does not come about";
             return false;
         }
         if (program_.waitForFinished(pace) || program_.state() == QProcess::NotRunning) {
+            lost_ = true;
             ADD_FAILURE() << qPrintable(what) << ": the program has ended with " << program_.exitCode();
             return false;
         }

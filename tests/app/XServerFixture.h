@@ -99,6 +99,8 @@ protected:
     void picture(const QString& name) const;
 
 private:
+    bool lost_ = false;
+
     QString xdotool(const QStringList& arguments);
     void copyAll(const QString& from);
 };

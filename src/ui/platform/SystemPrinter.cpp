@@ -82,10 +82,20 @@ bool SystemPrinter::choose() {
     QPrintDialog dialog(&device(), QApplication::activeWindow());
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
-    return dialog.exec() == QDialog::Accepted;
+    chosen_ = dialog.exec() == QDialog::Accepted;
+    return chosen_;
 }
 
 void SystemPrinter::print(const PrintableDocument& document) {
+    const bool isFile = device().outputFormat() == QPrinter::PdfFormat;
+    if (isFile && !chosen_ && !choose()) {
+        return;
+    }
+    chosen_ = false;
+    printOnDevice(document);
+}
+
+void SystemPrinter::printOnDevice(const PrintableDocument& document) {
     if (document.pageCount < 1 || document.pageSize.isEmpty()) {
         return;
     }

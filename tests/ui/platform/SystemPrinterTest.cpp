@@ -2,9 +2,11 @@
 
 #include "core/Failure.h"
 #include "support/PdfText.h"
+#include "support/WindowDriver.h"
 
 #include <QFile>
 #include <QPainter>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -43,7 +45,7 @@ protected:
 } // namespace
 
 TEST_F(SystemPrinterTest, print_allPagesInOrder) {
-    printer_.print(document(3));
+    printer_.printOnDevice(document(3));
     EXPECT_EQ(painted_, (QList<qint32>{0, 1, 2}));
     EXPECT_EQ(pagesInFile(), 3);
 }
@@ -51,7 +53,7 @@ TEST_F(SystemPrinterTest, print_allPagesInOrder) {
 TEST_F(SystemPrinterTest, print_namesTheDocumentAndTheProgramInTheFile) {
     PrintableDocument named = document(1);
     named.title = QStringLiteral("Room Report");
-    printer_.print(named);
+    printer_.printOnDevice(named);
     QFile file(file_);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray pdf = file.readAll();
@@ -59,8 +61,35 @@ TEST_F(SystemPrinterTest, print_namesTheDocumentAndTheProgramInTheFile) {
     EXPECT_TRUE(pdf.contains("/Creator " + pdfText("Talivane")));
 }
 
+TEST_F(SystemPrinterTest, print_toAFileWithoutAChoice_asksFirstAndKeepsWhatStandsThere) {
+    QFile earlier(file_);
+    ASSERT_TRUE(earlier.open(QIODevice::WriteOnly));
+    earlier.write("an earlier report");
+    earlier.close();
+    WindowDriver::whileModal([this] { printer_.print(document(1)); },
+                             [](QWidget& dialog) {
+                                 EXPECT_NE(qobject_cast<QPrintDialog*>(&dialog), nullptr);
+                                 WindowDriver::press(dialog, Qt::Key_Escape);
+                             });
+    EXPECT_TRUE(painted_.isEmpty());
+    ASSERT_TRUE(earlier.open(QIODevice::ReadOnly));
+    EXPECT_EQ(earlier.readAll().toStdString(), "an earlier report");
+}
+
+TEST_F(SystemPrinterTest, print_afterAChoice_printsAndTheNextOneAsksAgain) {
+    bool chosen = false;
+    WindowDriver::whileModal([&] { chosen = printer_.choose(); },
+                             [](QWidget& dialog) { static_cast<QPrintDialog&>(dialog).accept(); });
+    ASSERT_TRUE(chosen);
+    printer_.print(document(2));
+    EXPECT_EQ(pagesInFile(), 2);
+    WindowDriver::whileModal([this] { printer_.print(document(1)); },
+                             [](QWidget& dialog) { WindowDriver::press(dialog, Qt::Key_Escape); });
+    EXPECT_EQ(pagesInFile(), 2);
+}
+
 TEST_F(SystemPrinterTest, print_aPageOfThePapersSize_keepsItsMeasures) {
-    printer_.print(document(1));
+    printer_.printOnDevice(document(1));
     const double dotsPerTwip = printer_.device().resolution() / 1440.0;
     ASSERT_EQ(transforms_.size(), 1);
     EXPECT_NEAR(transforms_.at(0).m11(), dotsPerTwip, 1e-9);
@@ -70,7 +99,7 @@ TEST_F(SystemPrinterTest, print_aPageOfThePapersSize_keepsItsMeasures) {
 
 TEST_F(SystemPrinterTest, print_onSmallerPaper_scalesTheWholePageIntoItsMiddle) {
     printer_.device().setPageSize(QPageSize(QPageSize::A5));
-    printer_.print(document(1));
+    printer_.printOnDevice(document(1));
     const QRectF paper = printer_.device().paperRect(QPrinter::DevicePixel);
     const QRectF page = transforms_.at(0).mapRect(QRectF(0, 0, 12240, 15840));
     EXPECT_TRUE(QRectF(-1, -1, paper.width() + 2, paper.height() + 2).contains(page));
@@ -82,21 +111,21 @@ TEST_F(SystemPrinterTest, print_onSmallerPaper_scalesTheWholePageIntoItsMiddle) 
 TEST_F(SystemPrinterTest, print_aPageRange_printsOnlyThat) {
     printer_.device().setPrintRange(QPrinter::PageRange);
     printer_.device().setFromTo(2, 3);
-    printer_.print(document(5));
+    printer_.printOnDevice(document(5));
     EXPECT_EQ(painted_, (QList<qint32>{1, 2}));
 }
 
 TEST_F(SystemPrinterTest, print_aRangeBeyondTheDocument_printsNothing) {
     printer_.device().setPrintRange(QPrinter::PageRange);
     printer_.device().setFromTo(8, 9);
-    printer_.print(document(5));
+    printer_.printOnDevice(document(5));
     EXPECT_TRUE(painted_.isEmpty());
     EXPECT_FALSE(QFile::exists(file_));
 }
 
 TEST_F(SystemPrinterTest, print_lastPageFirst_reversesTheOrder) {
     printer_.device().setPageOrder(QPrinter::LastPageFirst);
-    printer_.print(document(3));
+    printer_.printOnDevice(document(3));
     EXPECT_EQ(painted_, (QList<qint32>{2, 1, 0}));
 }
 
@@ -104,26 +133,26 @@ TEST_F(SystemPrinterTest, print_collatedCopies_repeatTheDocument) {
     ASSERT_FALSE(printer_.device().supportsMultipleCopies());
     printer_.device().setCopyCount(2);
     printer_.device().setCollateCopies(true);
-    printer_.print(document(2));
+    printer_.printOnDevice(document(2));
     EXPECT_EQ(painted_, (QList<qint32>{0, 1, 0, 1}));
 }
 
 TEST_F(SystemPrinterTest, print_uncollatedCopies_repeatEachPage) {
     printer_.device().setCopyCount(2);
     printer_.device().setCollateCopies(false);
-    printer_.print(document(2));
+    printer_.printOnDevice(document(2));
     EXPECT_EQ(painted_, (QList<qint32>{0, 0, 1, 1}));
 }
 
 TEST_F(SystemPrinterTest, print_anEmptyDocument_writesNoFile) {
-    printer_.print({});
+    printer_.printOnDevice({});
     EXPECT_FALSE(QFile::exists(file_));
 }
 
 TEST_F(SystemPrinterTest, print_whereNoFileCanBe_failsAsAPrinterError) {
     printer_.device().setOutputFileName(folder_.path() + QStringLiteral("/missing/report.pdf"));
     try {
-        printer_.print(document(1));
+        printer_.printOnDevice(document(1));
         FAIL() << "the printer took it";
     } catch (const Failure& refused) {
         EXPECT_EQ(refused.number, 482);
