@@ -99,7 +99,7 @@ protected:
         }));
     }
     void takeDown() {
-        choose(FromEnd::DeleteRoom);
+        choose(FromEnd::DeleteRoom, false);
         awaitRecords(u"Rooms.xml"_s, rooms.size() - 1);
         changeFloors();
         zoom();

@@ -25,7 +25,7 @@ TEST_F(PeopleRoadTest, personIsEntered_foundAgain_joinedByAnother_readAndDeleted
     expectCurrentPerson("Quill &lt;b&gt;&amp;&quot;Ink&quot;&lt;/b&gt;");
     picture(u"again"_s);
     ASSERT_FALSE(HasFatalFailure());
-    press({u"alt+p"_s, u"n"_s}); // by the menu: a button stays down for a moment, and the keys go on
+    newPerson();
     enterPerson(second);
     ASSERT_FALSE(HasFatalFailure());
     expectPerson(1, first.name, {1965, "F", 7});

@@ -65,6 +65,11 @@ void RoadTest::enterPerson(const EnteredPerson& person) {
     awaitRecords(u"Profiles.xml"_s, before + 1);
 }
 
+void RoadTest::newPerson() {
+    openPopup(Input().press({u"alt+p"_s}));
+    closePopup(Input().press({u"n"_s}));
+}
+
 void RoadTest::showLocations() {
     constexpr QPoint onTheButton(150, 43);
     send(Input().click(geometry(mainWindow).topLeft() + onTheButton));
@@ -78,17 +83,20 @@ void RoadTest::enterHome(const QString& name, int floors) {
     awaitRecords(u"Floors.xml"_s, floorsBefore + floors);
 }
 
-void RoadTest::choose(FromEnd entry) {
-    send(Input().press({u"alt+l"_s}).press(u"Up"_s, static_cast<int>(entry)).press({u"Return"_s}));
+void RoadTest::choose(FromEnd entry, bool opensWindow) {
+    openPopup(Input().press({u"alt+l"_s}));
+    const Input choice = Input().press(u"Up"_s, static_cast<int>(entry)).press({u"Return"_s});
+    if (opensWindow) {
+        send(choice);
+    } else {
+        closePopup(choice);
+    }
 }
 
 void RoadTest::chooseFloor(int index) {
     constexpr QPoint onTheList(350, 170);
-    send(Input()
-             .click(geometry(mainWindow).topLeft() + onTheList)
-             .press({u"Home"_s})
-             .press(u"Down"_s, index)
-             .press({u"Return"_s}));
+    openPopup(Input().click(geometry(mainWindow).topLeft() + onTheList));
+    closePopup(Input().press({u"Home"_s}).press(u"Down"_s, index).press({u"Return"_s}));
 }
 
 void RoadTest::addRoom(const EnteredRoom& room) {

@@ -53,10 +53,11 @@ protected:
 
     /// With the cursor in the name field of a new person: enters, calculates and saves.
     void enterPerson(const EnteredPerson& person);
+    void newPerson();
     void showLocations();
     /// With the cursor in the name field of a new home: enters and saves.
     void enterHome(const QString& name, int floors);
-    void choose(FromEnd entry);
+    void choose(FromEnd entry, bool opensWindow = true);
     void chooseFloor(int index);
     /// Enters a room on the floor that is shown, and closes the editor.
     void addRoom(const EnteredRoom& room);

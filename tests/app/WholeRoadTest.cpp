@@ -37,7 +37,7 @@ protected:
     }
     void enterHousehold() {
         enterPerson(woman);
-        press({u"alt+p"_s, u"n"_s});
+        newPerson();
         enterPerson(man);
         showLocations();
         enterHome(u"Lock Cottage"_s, 2);

@@ -202,6 +202,22 @@ void XServerTest::leaveWindow(const QString& title, const QString& below) {
     focusWindow(below);
 }
 
+qsizetype XServerTest::shownWindows() {
+    return xdotool({u"search"_s, u"--onlyvisible"_s, u"--class"_s, u"talivane"_s}).count(u'\n');
+}
+
+void XServerTest::openPopup(const Input& input) {
+    const qsizetype before = shownWindows();
+    send(input);
+    ASSERT_TRUE(await(u"a menu or list"_s, [&] { return shownWindows() == before + 1; }));
+}
+
+void XServerTest::closePopup(const Input& input) {
+    const qsizetype before = shownWindows();
+    send(input);
+    ASSERT_TRUE(await(u"end of the menu or list"_s, [&] { return shownWindows() == before - 1; }));
+}
+
 QRect XServerTest::geometry(const QString& title) {
     QMap<QString, int> told;
     for (const QString& line :

@@ -81,6 +81,10 @@ protected:
     void focusWindow(const QString& title);
     /// Waits until no window has that title, and gives the keyboard to the one below.
     void leaveWindow(const QString& title, const QString& below);
+    /// Opens a menu or a list, and waits until it is there: keys that come later go to it.
+    void openPopup(const Input& input);
+    /// Chooses from the open menu or list, and waits until it is gone: keys that come sooner go with it.
+    void closePopup(const Input& input);
     /// Where a window stands on the screen; it must be there.
     QRect geometry(const QString& title);
     void send(const Input& input);
@@ -101,6 +105,7 @@ protected:
 private:
     bool lost_ = false;
 
+    [[nodiscard]] qsizetype shownWindows();
     QString xdotool(const QStringList& arguments);
     void copyAll(const QString& from);
 };
