@@ -103,7 +103,7 @@ void LocationPane::cancelNew() {
     // `Mode` stays as it is: the next save of the home that comes back stores a copy.
     setOpenState(true);
     currentHome().IsDirty = false;
-    Global::FindInData(locations_, QString::number(PreviousLocationID), 0, -1);
+    Global::FindInData(locations_, QString::number(PreviousLocationID), 0, 0);
 }
 
 void LocationPane::cmdSaveLocation_Click() {

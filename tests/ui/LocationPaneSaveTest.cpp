@@ -169,6 +169,15 @@ TEST_F(LocationPaneSaveTest, Cancel_bringsTheHomeBackAndLeavesTheModeAtInsert) {
     EXPECT_EQ(setting(u"LastLocation"_s), u"2"_s);
 }
 
+TEST_F(LocationPaneSaveTest, Cancel_whereTheFormerHomeIsGone_showsTheFirst) {
+    start();
+    Global::CurrentLocation->LocationID = 99;
+    click(*view_, "cmdNewLocation");
+    click(*view_, "cmdNewLocation");
+    EXPECT_EQ(band(), u"Elm Street"_s);
+    EXPECT_EQ(setting(u"LastLocation"_s), u"1"_s);
+}
+
 TEST_F(LocationPaneSaveTest, Cancel_inAnEmptyStore_leavesABlankPane) {
     startEmpty();
     click(*view_, "cmdNewLocation");
