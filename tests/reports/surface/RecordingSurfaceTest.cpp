@@ -50,21 +50,19 @@ TEST_F(RecordingSurfaceTest, everyCall_isNotedInOrderAndPassedOn) {
     EXPECT_EQ(passedOn.spelledCalls(), expected);
 }
 
+// Each sets a property and expects its note.
+#define NUMBER(name)                                                                                         \
+    expected.emplace_back(#name "(12)");                                                                     \
+    vp.name(12)
+#define FLAG(name)                                                                                           \
+    expected.emplace_back(#name "(true)");                                                                   \
+    vp.name(true)
+#define TEXT(name)                                                                                           \
+    expected.emplace_back(#name "(\"a\")");                                                                  \
+    vp.name(QStringLiteral("a"))
+
 TEST_F(RecordingSurfaceTest, everyProperty_isNotedByTheNameOfItsSetterAndPassedOn) {
     Calls expected;
-    const auto set = [&](const char* name, auto value, const char* written) {
-        expected.push_back(std::string(name) + '(' + written + ')');
-        value();
-    };
-#define NUMBER(name)                                                                                         \
-    set(                                                                                                     \
-        #name, [&] { vp.name(12); }, "12")
-#define FLAG(name)                                                                                           \
-    set(                                                                                                     \
-        #name, [&] { vp.name(true); }, "true")
-#define TEXT(name)                                                                                           \
-    set(                                                                                                     \
-        #name, [&] { vp.name(QStringLiteral("a")); }, "\"a\"")
     NUMBER(BackColor);
     NUMBER(BrushColor);
     NUMBER(BrushStyle);
@@ -113,12 +111,13 @@ TEST_F(RecordingSurfaceTest, everyProperty_isNotedByTheNameOfItsSetterAndPassedO
     NUMBER(Y2);
     NUMBER(Zoom);
     NUMBER(ZoomMode);
-#undef NUMBER
-#undef FLAG
-#undef TEXT
     EXPECT_EQ(noted, expected);
     EXPECT_EQ(passedOn.spelledCalls(), expected);
 }
+
+#undef NUMBER
+#undef FLAG
+#undef TEXT
 
 TEST_F(RecordingSurfaceTest, reads_areTheTargetsAnswersAndAreNotNoted) {
     passedOn.vp.CurrentY(4321.5);
