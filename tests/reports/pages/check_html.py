@@ -2,11 +2,14 @@
 compares the texts in it with those that were written.
 
 Usage: check_html.py PROGRAM, where PROGRAM writes NAME.html and NAME.json files into the folder it is given.
+Or:    check_html.py REPORTS TRANSCRIPT DATA, where REPORTS writes the room reports of the sample household in
+       DATA as HTML, and TRANSCRIPT prints the same builder's calls.
 """
 
 import json
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -42,30 +45,53 @@ def as_shown(text):
     return FORBIDDEN.sub("\ufffd", text) or "\n"
 
 
-def check(page):
-    expected = json.loads(page.with_suffix(".json").read_text("utf-8"))
+def compare(page, texts):
+    """Compares a file's texts with the written ones and gives its body, as HTML's own parser reads it."""
     source = page.read_bytes()
     document = html5lib.HTMLParser(strict=True).parse(source, transport_encoding="utf-8")
     as_xml = xml.etree.ElementTree.fromstring(source)
+    written = [as_shown(text) for text in texts]
     for tree in (document, as_xml):
-        body = tree.find(HTML + "body")
-        found = list(blocks_of(body))
-        written = [as_shown(text) for text in expected["texts"]]
+        found = list(blocks_of(tree.find(HTML + "body")))
         assert len(found) == len(written), f"{page.name}: {len(found)} texts, {len(written)} written"
         for number, (left, right) in enumerate(zip(found, written)):
             assert left == right, f"{page.name}, text {number}: {left!r} was written as {right!r}"
-        assert len(body.findall(HTML + "section")) == expected["pages"], f"{page.name}: pages"
         assert not list(tree.iter(HTML + "script")), f"{page.name}: a script"
-    return len(expected["texts"])
+    print(page.name, len(written), "texts")
+    return document.find(HTML + "body")
+
+
+def check_samples(program, folder):
+    subprocess.run([program, folder], check=True)
+    pages = sorted(folder.glob("*.html"))
+    assert len(pages) == 4, pages
+    for page in pages:
+        expected = json.loads(page.with_suffix(".json").read_text("utf-8"))
+        body = compare(page, expected["texts"])
+        assert len(body.findall(HTML + "section")) == expected["pages"], f"{page.name}: pages"
+
+
+def check_household(reports, transcript, data, folder):
+    for source in (data, data / "sample"):
+        for file in source.glob("*.xml"):
+            shutil.copy(file, folder)
+    subprocess.run([reports, folder, folder / "out"], check=True)
+    (page,) = (folder / "out").glob("*.html")
+    calls = subprocess.run(
+        [transcript, folder, "rooms", "1", "1"], check=True, capture_output=True, encoding="utf-8"
+    ).stdout.splitlines()
+    texts = [call["args"][0] for call in map(json.loads, calls) if call["op"] in ("Write", "TextBox")]
+    assert len(texts) > 100, f"only {len(texts)} texts in the transcript"
+    compare(page, texts)
 
 
 def main():
-    with tempfile.TemporaryDirectory() as folder:
-        subprocess.run([sys.argv[1], folder], check=True)
-        pages = sorted(pathlib.Path(folder).glob("*.html"))
-        assert len(pages) == 4, pages
-        for page in pages:
-            print(page.name, check(page), "texts")
+    with tempfile.TemporaryDirectory() as name:
+        folder = pathlib.Path(name)
+        if len(sys.argv) == 2:
+            check_samples(sys.argv[1], folder)
+        else:
+            check_household(sys.argv[1], sys.argv[2], pathlib.Path(sys.argv[3]), folder)
 
 
 main()
