@@ -6,7 +6,6 @@
 #include "ui/widgets/ElidedLabel.h"
 
 #include <QPainter>
-#include <QRegularExpression>
 #include <QTime>
 
 namespace {
@@ -32,8 +31,11 @@ protected:
 /// The regional form of a time of day without its seconds, which a clock that ticks by the minute cannot
 /// show.
 QString timeText(const QLocale& locale, QTime time) {
-    static const QRegularExpression seconds(QStringLiteral("[:.]ss?"));
-    return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(seconds));
+    QString format = locale.timeFormat(QLocale::ShortFormat);
+    for (const QString& seconds : {QStringLiteral(":ss"), QStringLiteral(".ss"), QStringLiteral(":s")}) {
+        format.remove(seconds);
+    }
+    return locale.toString(time, format);
 }
 
 } // namespace
