@@ -76,16 +76,16 @@ protected:
     }
     /// Each press of a zoom button is stored, and the two take each other back.
     void zoom() {
-        const QRect window = geometry(mainWindow);
-        const auto click = [&](int fromRight, const QString& extent) {
-            send(Input().click(window.topRight() + QPoint(-fromRight, 170)));
+        const auto pressed = [&](const QStringList& keys, const QString& extent) {
+            press(keys);
             EXPECT_TRUE(await(u"plan of "_s + extent, [&] {
                 const Record home = records(u"Locations.xml"_s).first();
                 return home.value(u"PLANWIDTH"_s) == extent && home.value(u"PLANLENGTH"_s) == extent;
             }));
         };
-        click(40, u"500"_s);
-        click(78, u"600"_s);
+        chooseFloor(0); // the buttons come next for the keyboard
+        pressed({u"Tab"_s, u"space"_s}, u"700"_s);
+        pressed({u"Tab"_s, u"space"_s}, u"600"_s);
     }
     void renameHome(const QString& name) {
         constexpr QPoint onTheName(350, 138);

@@ -164,7 +164,8 @@ void RoadTest::placeNewRoom(const EnteredRoom& room) {
     const QPoint grip = shown.bottomRight() - QPoint(6, 6);
     send(Input().drag(grip, grip + way));
 
-    constexpr double tolerance = 4;
+    // Whole pixels tell the scale roughly; that the room goes exactly with the mouse is seen on the screen.
+    const double tolerance = 4 + 0.06 * std::max(room.place.x(), room.place.y());
     Record moved;
     const bool stored = await(room.name + u" in its new place"_s, [&] {
         for (const Record& record : records(u"Rooms.xml"_s)) {
