@@ -147,9 +147,9 @@ QRect RoadTest::selectedRoom() const {
 }
 
 void RoadTest::placeNewRoom(const EnteredRoom& room) {
-    constexpr double oneOff = 1.5;
     const QSizeF size(inches(room.widthFeet, room.widthInches), inches(room.lengthFeet, room.lengthInches));
     const QString id = records(u"Rooms.xml"_s).last().value(u"ROOMID"_s);
+    const double oneOff = 1 + size.height() / size.width(); // of a point in height and in width
     QRect shown;
     // A room's edges are drawn on both of its ends.
     const auto scale = [&] { return (shown.width() - 1) / size.width(); };
