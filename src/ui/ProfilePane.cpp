@@ -30,6 +30,7 @@ ProfilePane::ProfilePane(ViewFrame& frame, QWidget* parent)
     , calendar_(frmCalendar::over(this)) {
     setObjectName(u"vsMainProfile"_s);
     setAccessibleName(tr("Profile"));
+    setFocusProxy(ui_.cboProfileName);
     connectControls();
 }
 

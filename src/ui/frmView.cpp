@@ -177,6 +177,9 @@ void frmView::Show() {
     if (!loaded_) {
         loaded_ = true; // before the load, which can come back here to show a new profile
         Form_Load();
+        if (focusWidget() == nullptr) {
+            vsMainProfile->setFocus();
+        }
     }
     show();
     raise();

@@ -27,6 +27,12 @@ TEST_F(frmViewTest, start_neverClosed_hasItsDesignedSize) {
     EXPECT_EQ(view_->minimumSize(), QSize(900, 640));
 }
 
+TEST_F(frmViewTest, start_putsTheFocusWhereTheUserGoesOn) {
+    Global::Main();
+    ASSERT_NE(view_->focusWidget(), nullptr);
+    EXPECT_EQ(view_->focusWidget()->objectName(), QStringLiteral("cboProfileName"));
+}
+
 TEST_F(frmViewTest, firstRun_profilePaneIsInFrontInItsNewState) {
     startEmpty();
     expectProfilePane();
