@@ -91,8 +91,8 @@ QWidget* LocationControls::makeButtons() {
     cmdDelRoom = makeButton(u"cmdDelRoom"_s, u"Remove Room"_s,
                             u"Click Remove Room to delete a room from the floorplan"_s, buttons);
     PaneParts::makeAlike({cmdNewLocation, cmdSaveLocation, cmdRoom, cmdDelRoom}, u"Cancel"_s);
-    // Its letter is also that of the menu "Advice". Were both to act, neither would at the first press; so the
-    // menu has it, as everywhere.
+    // Its letter is also that of the menu "Advice". Were both to act, neither would at the first press; so
+    // the menu has it, as everywhere.
     cmdRoom->setShortcut(QKeySequence());
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(windowEdge, between, windowEdge, betweenGroups);
