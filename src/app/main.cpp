@@ -6,16 +6,16 @@
 #include "ui/platform/SystemBrowser.h"
 #include "ui/platform/SystemClock.h"
 #include "ui/platform/SystemPrinter.h"
+#include "ui/widgets/SvgIcon.h"
 
 #include <QApplication>
-#include <QIcon>
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Talivane"));
     // The name under which desktops know the program's entry and icon.
     QApplication::setDesktopFileName(QStringLiteral("com.orvenel.Talivane"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/talivane/pictures/talivane.svg")));
+    QApplication::setWindowIcon(svgIcon(QStringLiteral(":/talivane/pictures/talivane.svg")));
 
     DialogPrompts prompts;
     QSettingsStore settings;

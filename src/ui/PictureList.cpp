@@ -1,6 +1,7 @@
 #include "ui/PictureList.h"
 
 #include "core/Failure.h"
+#include "ui/widgets/SvgIcon.h"
 
 #include <QDir>
 
@@ -32,5 +33,5 @@ QIcon PictureList::picture(const QString& key) const {
     if (!keys().contains(key)) {
         throw Failure{elementNotFound, QStringLiteral("Element not found")};
     }
-    return QIcon(folder_ + u'/' + fileName(key));
+    return svgIcon(folder_ + u'/' + fileName(key));
 }

@@ -13,6 +13,7 @@
 #include "ui/StatusPanels.h"
 #include "ui/frmAbout.h"
 #include "ui/platform/WidgetPlacement.h"
+#include "ui/widgets/SvgIcon.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -128,7 +129,7 @@ QWidget* frmView::buildToolbar() {
     auto* buttons = new QActionGroup(this);
     const auto add = [&](Pane pane, const QString& key, const QString& caption, const QString& description,
                          const QString& toolTip, const QString& picture) {
-        QAction* action = tlbNavigation->addAction(QIcon(picture), caption);
+        QAction* action = tlbNavigation->addAction(svgIcon(picture), caption);
         action->setObjectName(key);
         action->setCheckable(true);
         action->setToolTip(toolTip);

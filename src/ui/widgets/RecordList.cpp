@@ -9,7 +9,9 @@
 RecordList::RecordList(QWidget* parent)
     : QComboBox(parent) {
     constexpr int narrowest = 12;
-    setEditable(true);
+    // Made editable by its field: the other way creates the list that drops down, too, which may never
+    // happen.
+    setLineEdit(new QLineEdit(this));
     setInsertPolicy(NoInsert);
     setCompleter(nullptr);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
