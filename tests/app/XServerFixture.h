@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QMap>
 #include <QProcess>
+#include <QSet>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -105,7 +106,7 @@ protected:
 private:
     bool lost_ = false;
 
-    [[nodiscard]] qsizetype shownWindows();
+    [[nodiscard]] QSet<QString> shownWindows();
     QString xdotool(const QStringList& arguments);
     void copyAll(const QString& from);
 };
