@@ -93,11 +93,13 @@ void CompassDrawing::DrawCompass(PlanSurface& surface, double north,
         setScale(surface, Target::Screen);
         drawCompass(surface, north, Colors::Table);
         if (view_ == View::Home) {
-            drawWinds(surface,
-                      clicked.value_or(PlanPoint{
-                          .X = 0, .Y = static_cast<double>(surface.scale().ScaleTop + circleInset)}));
+            drawWinds(surface, clicked.value_or(unsetNorth(surface)));
         }
     });
+}
+
+PlanPoint CompassDrawing::unsetNorth(const PlanSurface& surface) {
+    return {.X = 0, .Y = static_cast<double>(surface.scale().ScaleTop + circleInset)};
 }
 
 void CompassDrawing::PrintCompass(PlanSurface& surface, double north, const PlanPoint& clicked,

@@ -34,6 +34,9 @@ public:
     void DrawCompass(PlanSurface& surface, double north,
                      const std::optional<CompassGeometry::PlanPoint>& clicked);
 
+    /// Where the letter "N" of a home stands whose North was never set.
+    [[nodiscard]] static CompassGeometry::PlanPoint unsetNorth(const PlanSurface& surface);
+
     /// Draws the rooms of the shown floor and the centre, and notes every room's direction in memory, that
     /// of a room on another floor too.
     void DrawRooms(PlanSurface& surface);

@@ -155,8 +155,11 @@ void CompassWindow::drawPlan() {
 void CompassWindow::drawPlan(double north, const std::optional<CompassGeometry::PlanPoint>& clicked) {
     drawing_.DrawCompass(picFloorPlan->picture(), north, clicked);
     drawing_.DrawRooms(picFloorPlan->picture());
-    picFloorPlan->setAccessibleDescription(
-        tr("North is %1 degrees clockwise from the top").arg(north, 0, 'f', 1));
+    QString description = tr("North is %1 degrees clockwise from the top").arg(north, 0, 'f', 1);
+    if (picFloorPlan->focusPolicy() != Qt::NoFocus) {
+        description += tr("; Left and Right turn it by 1 degree, with Shift by 15");
+    }
+    picFloorPlan->setAccessibleDescription(description);
 }
 
 void CompassWindow::clearPlan() {

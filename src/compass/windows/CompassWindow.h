@@ -35,6 +35,8 @@ protected:
     /// The same on a cleared plan, for a North that was just clicked.
     void drawPlan(double north, const std::optional<CompassGeometry::PlanPoint>& clicked);
     void clearPlan();
+    /// Tells beside the buttons where a point of the plan lies.
+    void picFloorPlan_MouseMove(double X, double Y);
 
     /// Adds a line of text above the plan.
     void addInstruction(QLabel* label);
@@ -48,7 +50,6 @@ private:
     void buildPlan();
     void buildStrip();
     void picFloorPlan_Resize();
-    void picFloorPlan_MouseMove(double X, double Y);
     void cmdPrint_Click();
 
     TitleBand* vsTop = nullptr;

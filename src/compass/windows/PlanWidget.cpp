@@ -3,9 +3,11 @@
 #include "compass/windows/PlanPainter.h"
 #include "ui/widgets/PaperShadow.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QResizeEvent>
+#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 
@@ -28,6 +30,10 @@ PlanWidget::PlanWidget(QWidget* parent)
     setCursor(Qt::CrossCursor);
 }
 
+void PlanWidget::setTurnable() {
+    setFocusPolicy(Qt::StrongFocus);
+}
+
 QPointF PlanWidget::toPlan(const QPointF& point) const {
     return inPlan(picture_.scale(), point.x() / width(), point.y() / height());
 }
@@ -44,6 +50,12 @@ void PlanWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), Qt::white); // paper is white in every theme
     const PlanPens pens{.lineWidth = 1, .font = font(), .unitsPerPoint = logicalDpiY() / pointsPerInch};
     paintPlan(painter, picture_, rect(), pens);
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.backgroundColor = Qt::white;
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
 }
 
 void PlanWidget::resizeEvent(QResizeEvent* event) {
@@ -68,6 +80,18 @@ void PlanWidget::mouseMoveEvent(QMouseEvent* event) {
 void PlanWidget::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF point = toPlan(event->position());
     Q_EMIT clicked(point.x(), point.y());
+}
+
+void PlanWidget::keyPressEvent(QKeyEvent* event) {
+    constexpr double step = 1;
+    constexpr double largeStep = 15;
+    const bool right = event->key() == Qt::Key_Right;
+    if (focusPolicy() == Qt::NoFocus || (!right && event->key() != Qt::Key_Left)) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const double degrees = (event->modifiers() & Qt::ShiftModifier) != 0 ? largeStep : step;
+    Q_EMIT turned(right ? degrees : -degrees);
 }
 
 PlanDesk::PlanDesk(QWidget* parent)

@@ -21,9 +21,14 @@ public:
     [[nodiscard]] QPointF toPlan(const QPointF& point) const;
     [[nodiscard]] QPointF fromPlan(const QPointF& point) const;
 
+    /// Lets Tab reach the sheet, where Left and Right then turn what it shows.
+    void setTurnable();
+
 Q_SIGNALS:
     void pointed(double X, double Y);
     void clicked(double X, double Y);
+    /// The keyboard asks for a turn, in degrees clockwise: 1 for Right, -1 for Left, 15 of them with Shift.
+    void turned(double degrees);
     /// The sheet has another size than it was shown with.
     void resized();
 
@@ -32,6 +37,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     PlanPicture picture_;

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <cmath>
+
 frmSetDirection::frmSetDirection(QWidget* parent)
     : CompassWindow(CompassDrawing::View::Home, QStringLiteral("frmSetDirection"),
                     QStringLiteral("Set Direction"), parent) {
@@ -22,6 +24,9 @@ frmSetDirection::frmSetDirection(QWidget* parent)
     connect(cmdOK, &QPushButton::clicked, this, &frmSetDirection::cmdOK_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmSetDirection::cmdCancel_Click);
     connect(picFloorPlan, &PlanWidget::clicked, this, &frmSetDirection::picFloorPlan_MouseUp);
+    connect(picFloorPlan, &PlanWidget::turned, this, &frmSetDirection::picFloorPlan_KeyDown);
+    picFloorPlan->setTurnable();
+    picFloorPlan->setFocus();
 }
 
 bool frmSetDirection::SetDirection() {
@@ -58,6 +63,24 @@ void frmSetDirection::picFloorPlan_MouseUp(double X, double Y) {
         home.LABLEX = X;
         home.LABLEY = Y;
         drawPlan(angle, CompassGeometry::PlanPoint{.X = X, .Y = Y});
+    });
+}
+
+void frmSetDirection::picFloorPlan_KeyDown(double degrees) {
+    passOver([&] {
+        constexpr double fullTurn = 360;
+        const cLocation& home = currentLocation();
+        // The letter N turns where it stands.
+        const CompassGeometry::PlanPoint from =
+            home.NORTHOFFSET != 0 ? CompassGeometry::PlanPoint{.X = home.LABLEX, .Y = home.LABLEY}
+                                  : CompassDrawing::unsetNorth(picFloorPlan->picture());
+        const double distance = std::hypot(from.X, from.Y);
+        const double north = std::fmod(std::round(home.NORTHOFFSET) + degrees + fullTurn, fullTurn);
+        const double turn = CompassGeometry::DegreesToRadians(north);
+        const double X = distance * std::sin(turn);
+        const double Y = -distance * std::cos(turn);
+        picFloorPlan_MouseUp(X, Y);
+        picFloorPlan_MouseMove(X, Y);
     });
 }
 

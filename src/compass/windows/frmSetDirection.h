@@ -18,6 +18,8 @@ private:
     enum class ResultCode : qint32 { Ok = 1, Cancel = 2 };
 
     void picFloorPlan_MouseUp(double X, double Y);
+    /// Turns North by so many degrees, as a click beside the last one would.
+    void picFloorPlan_KeyDown(double degrees);
     void cmdOK_Click();
     void cmdCancel_Click();
     void leave(ResultCode code);

@@ -81,16 +81,55 @@ TEST_F(frmSetDirectionTest, click_setsNorthInMemoryAndTurnsTheSectors) {
 
 TEST_F(frmSetDirectionTest, click_withAnyButtonCountsAndTheLastOneHolds) {
     show([](QWidget& window) {
-        EXPECT_EQ(plan(window).accessibleDescription(),
-                  QStringLiteral("North is 40.0 degrees clockwise from the top"));
+        const QString north40 = QStringLiteral("North is 40.0 degrees clockwise from the top; Left and Right "
+                                               "turn it by 1 degree, with Shift by 15");
+        EXPECT_EQ(plan(window).accessibleDescription(), north40);
         clickPlan(window, 50, 50, Qt::RightButton);
-        EXPECT_NE(plan(window).accessibleDescription(),
-                  QStringLiteral("North is 40.0 degrees clockwise from the top"));
+        EXPECT_NE(plan(window).accessibleDescription(), north40);
         EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 135, 1);
         clickPlan(window, -50, 50, Qt::MiddleButton);
         EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 225, 1);
         clickPlan(window, -50, -50);
         EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 315, 1);
+    });
+}
+
+TEST_F(frmSetDirectionTest, arrowKeys_turnNorthAndOkSavesIt) {
+    EXPECT_TRUE(show([&](QWidget& window) {
+        EXPECT_EQ(window.focusWidget(), &plan(window));
+        press(window, Qt::Key_Right);
+        EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 41, 1e-6);
+        press(window, Qt::Key_Left, Qt::ShiftModifier);
+        press(window, Qt::Key_Left);
+        EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 25, 1e-6);
+        // The letter N stands as far from the centre as it was clicked.
+        EXPECT_NEAR(std::hypot(Global::CurrentLocation->LABLEX, Global::CurrentLocation->LABLEY),
+                    std::hypot(50, -80), 1e-6);
+        EXPECT_TRUE(plan(window).accessibleDescription().startsWith(QStringLiteral("North is 25.0 degrees")));
+        EXPECT_TRUE(control<QLabel>(window, "lblCoord").text().contains(QStringLiteral("Angle = 2")));
+        press(window, Qt::Key_Return);
+        EXPECT_FALSE(window.isVisible());
+    }));
+    EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 25, 1e-6);
+    EXPECT_NE(home_.storedDirection(1), QStringLiteral("5"));
+}
+
+TEST_F(frmSetDirectionTest, arrowKeys_goRoundTheCircleFromANorthThatWasNeverSet) {
+    Global::CurrentLocation->NORTHOFFSET = 0;
+    show([&](QWidget& window) {
+        const double edge = CompassDrawing::unsetNorth(plan(window).picture()).Y;
+        press(window, Qt::Key_Left);
+        EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 359, 1e-6);
+        EXPECT_NEAR(std::hypot(Global::CurrentLocation->LABLEX, Global::CurrentLocation->LABLEY), -edge,
+                    1e-6);
+        for (int step = 0; step < 24; ++step) { // past straight right, below and left, where no click counts
+            press(window, Qt::Key_Right, Qt::ShiftModifier);
+        }
+        EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 359, 1e-6);
+        press(window, Qt::Key_Right);
+        EXPECT_EQ(Global::CurrentLocation->NORTHOFFSET, 0);
+        press(window, Qt::Key_Up);
+        EXPECT_EQ(Global::CurrentLocation->NORTHOFFSET, 0);
     });
 }
 
@@ -277,6 +316,7 @@ TEST_F(frmSetDirectionTest, tab_goesFromTopLeftToBottomRightThroughNamedControls
     show([](QWidget& window) {
         expectReadingOrder(window);
         expectNamedControls(window);
-        EXPECT_EQ(tabOrder(window).size(), 4U);
+        EXPECT_EQ(tabOrder(window).size(), 5U);
+        EXPECT_EQ(tabOrder(window).front(), &plan(window));
     });
 }
