@@ -162,6 +162,9 @@ TEST(CompassGeometry, directionAt_boundary_belongsToTheFirstInTableOrder) {
     EXPECT_EQ(directionAt(table, 255), 7);
     EXPECT_EQ(directionAt(table, 285), 6);
     EXPECT_EQ(directionAt(table, 345), 1);
+    // North comes first in the table, so that its end is North's too where its sector does not wrap.
+    EXPECT_EQ(directionAt(sectors(90), 105), 1);
+    EXPECT_EQ(directionAt(sectors(90), 75), 1);
 }
 
 TEST(CompassGeometry, directionAt_straightUp_isNorthThroughTheUpperHalfOfTheWrap) {

@@ -62,6 +62,9 @@ TEST_F(PlanExtentTest, side_roomOf120By240_isTheOneThatTheComparisonChooses) {
     // Far right of 0 the width is chosen, though the length is larger.
     EXPECT_EQ(measured({{.left = "400", .width = "120", .length = "240"}}).side(), 120);
     EXPECT_EQ(measured({{.top = "400", .width = "240", .length = "120"}}).side(), 120);
+    // Where right and bottom are one, the length is chosen.
+    EXPECT_EQ(measured({{.left = "120", .width = "120", .length = "240"}}).side(), 240);
+    EXPECT_EQ(measured({{.top = "120", .width = "240", .length = "120"}}).side(), 120);
 }
 
 TEST_F(PlanExtentTest, screenScale_isSquareWithAHundredInchesOfMargin) {

@@ -19,6 +19,7 @@ TEST_F(FailureTest, failure_everyClassicNumber_hasItsClassicDescription) {
         {ErrorNumber::InvalidProcedureCall, u"5 Invalid procedure call or argument"_s},
         {ErrorNumber::Overflow, u"6 Overflow"_s},
         {ErrorNumber::OutOfMemory, u"7 Out of memory"_s},
+        {ErrorNumber::SubscriptOutOfRange, u"9 Subscript out of range"_s},
         {ErrorNumber::DivisionByZero, u"11 Division by zero"_s},
         {ErrorNumber::TypeMismatch, u"13 Type mismatch"_s},
         {ErrorNumber::InternalError, u"51 Internal error"_s},

@@ -205,14 +205,18 @@ TEST_P(MoveRules, split_aSignOnAnAxisTakesTheWholeSectorAcross) {
     for (const auto& [animal, sector] : {std::pair("Rat", 9), {"Rabbit", 7}, {"Horse", 1}, {"Rooster", 3}}) {
         choosePerson(2);
         NineKiYear year{{}, QString::fromLatin1(animal), 10 - sector, {}};
+        bool reached = false;
         for (qint32 offset = 0; offset < 9; ++offset) {
             year.placement = placeNumbers(1995 + offset);
             const SectorRating rating = rated(year, sector, GetParam());
             if (rating.rule == MoveRule::OppositeAnimal) {
+                reached = true;
+                ASSERT_TRUE(rating.problematic) << animal;
                 EXPECT_EQ(rating.problematic->sector, names.at(sector));
                 EXPECT_FALSE(rating.beneficial);
             }
         }
+        EXPECT_TRUE(reached) << animal;
     }
 }
 

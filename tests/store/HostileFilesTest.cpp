@@ -83,8 +83,8 @@ TEST_F(HostileFilesTest, load_wideFileTruncatedAtEveryByte_isRefusedOrWhole) {
 TEST_F(HostileFilesTest, load_badlyEncodedFiles_areRefused) {
     for (const QByteArray& bad : std::initializer_list<QByteArray>{
              "\xFF", "\xC0\xAF", "\xE0\x80\xAF", "\xF0\x80\x80\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80",
-             "\xF8\x88\x80\x80\x80", "\xC3", "\xE5\xAE", "\x80", QByteArray(1, '\0'), "\x01", "\x1B",
-             "\xEF\xBF\xBF"}) {
+             "\xF5\x80\x80\x80", "\xF8\x88\x80\x80\x80", "\xC3", "\xE5\xAE", "\x80", QByteArray(1, '\0'),
+             "\x01", "\x1B", "\xEF\xBF\xBF"}) {
         expectRefused(fileOf({"N=\"" + bad + "\""}));
         expectRefused(fileOf({"N=\"12345678" + bad + "12345678\""}));
         expectRefused(fileOf({"N=\"1\""}) + bad);

@@ -176,7 +176,7 @@ TEST_F(RecordChangesTest, SetAttribute_whatNoFileCanHold_isStoredWithoutItAndFal
 TEST_F(RecordChangesTest, SetAttribute_nameThatNoFileCanHold_isReportedAndNothingIsStored) {
     loadThree();
     for (const QString& name :
-         {QString(), u"A B"_s, u"1A"_s, u"-A"_s, u"A\"B"_s, u"A<"_s, u"A"_s + QChar(u'\0') + u'B'}) {
+         {QString(), u"A B"_s, u"1A"_s, u"-A"_s, u".A"_s, u"A\"B"_s, u"A<"_s, u"A"_s + QChar(u'\0') + u'B'}) {
         world.prompts.expectError(u"cXMLHandler.Set Attribute"_s, 5);
         EXPECT_FALSE(store.SetAttribute(name, 1)) << qPrintable(name);
     }
