@@ -4,9 +4,12 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <map>
+#include <regex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #ifdef __GLIBC__
@@ -20,48 +23,55 @@ std::vector<Ratio>& ratios() {
     return all;
 }
 
-/// Prints as the console does and keeps every repetition's time for the ratios.
+/// Prints each benchmark's median as the console does, and keeps every repetition's time for the ratios.
 class CollectingReporter final : public benchmark::ConsoleReporter {
 public:
     CollectingReporter()
         : ConsoleReporter(OO_Tabular) {}
 
+    /// Tells of the machine once, not before each pair.
+    bool ReportContext(const Context& context) override {
+        static bool told = false;
+        return std::exchange(told, true) || ConsoleReporter::ReportContext(context);
+    }
+
     void ReportRuns(const std::vector<Run>& reports) override {
-        ConsoleReporter::ReportRuns(reports);
         for (const Run& run : reports) {
+            if (run.aggregate_name == "median") {
+                ConsoleReporter::ReportRuns({run});
+            }
             if (run.run_type == Run::RT_Iteration && !run.error_occurred) {
-                times_[run.run_name.str()].push_back(run.GetAdjustedRealTime());
+                times_[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
             }
         }
     }
 
-    void printRatios() const {
-        for (const Ratio& ratio : ratios()) {
-            const double measured = median(ratio.measured);
-            const double baseline = median(ratio.baseline);
-            if (measured > 0 && baseline > 0) {
-                const double value = measured / baseline;
-                std::printf("ratio %.2f (at most %.2f)%s  %s\n", value, ratio.limit,
-                            value > ratio.limit ? "  EXCEEDED" : "", ratio.what);
-            }
-        }
+    /// The median of the two benchmarks' times, over one another; 0 where one of them failed.
+    [[nodiscard]] double ratio(const Ratio& pair) {
+        const double baseline = median(times_[pair.baseline]);
+        return baseline > 0 ? median(times_[pair.measured]) / baseline : 0;
     }
 
 private:
-    [[nodiscard]] double median(const char* name) const {
-        for (const auto& [key, found] : times_) {
-            if (key == name || key.rfind(std::string(name) + "/real_time", 0) == 0 ||
-                key.rfind(std::string(name) + "/manual_time", 0) == 0) {
-                std::vector<double> sorted = found;
-                std::sort(sorted.begin(), sorted.end());
-                return sorted[sorted.size() / 2];
-            }
-        }
-        return 0;
+    static double median(std::vector<double>& times) {
+        std::sort(times.begin(), times.end());
+        return times.empty() ? 0 : times[times.size() / 2];
     }
 
     std::map<std::string, std::vector<double>> times_;
 };
+
+/// Runs the pair's two benchmarks, turn by turn, and returns the line about it. A pair is run by itself, so
+/// that both see the machine at the same speed.
+std::string measured(const Ratio& pair) {
+    benchmark::SetBenchmarkFilter(std::string("^(") + pair.measured + '|' + pair.baseline + ")(/|$)");
+    CollectingReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    const double value = reporter.ratio(pair);
+    std::array<char, 32> figures{};
+    std::snprintf(figures.data(), figures.size(), "ratio %.2f (at most %.2f)", value, pair.limit);
+    return std::string(figures.data()) + (value > pair.limit ? "  EXCEEDED  " : "  ") + pair.what;
+}
 
 /// Fixes how the C library gives memory back. Left to itself it changes its mind with what ran before, and
 /// then one of a pair pays for new pages at every turn and the other one does not.
@@ -86,19 +96,27 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    // Medians of interleaved repetitions: the machine may slow down in the middle of a run.
+    // Medians of many short, interleaved repetitions: the machine may slow down in the middle of a run.
     std::vector<char*> arguments(argv, argv + argc);
-    std::string repetitions = "--benchmark_repetitions=7";
+    std::string repetitions = "--benchmark_repetitions=21";
+    std::string seconds = "--benchmark_min_time=0.1";
     std::string interleaving = "--benchmark_enable_random_interleaving=true";
-    arguments.insert(arguments.begin() + 1, {repetitions.data(), interleaving.data()});
+    arguments.insert(arguments.begin() + 1, {repetitions.data(), seconds.data(), interleaving.data()});
     int count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) {
         return 1;
     }
     const QApplication application(argc, argv);
-    CollectingReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.printRatios();
+    const std::regex wanted(benchmark::GetBenchmarkFilter());
+    std::vector<std::string> lines;
+    for (const Ratio& pair : ratios()) {
+        if (std::regex_search(pair.measured, wanted) || std::regex_search(pair.baseline, wanted)) {
+            lines.push_back(measured(pair));
+        }
+    }
+    for (const std::string& line : lines) {
+        std::puts(line.c_str());
+    }
     return 0;
 }

@@ -6,6 +6,7 @@
 
 #include <QFrame>
 #include <QGridLayout>
+#include <QPainter>
 #include <QScrollArea>
 
 using namespace Qt::StringLiterals;
@@ -59,6 +60,7 @@ QWidget* ProfileTabs::addPage(const QString& name, const QString& caption) {
     page->setMaximumWidth(widestInCharacters * page->fontMetrics().averageCharWidth());
     area->setWidget(page);
     page->setAutoFillBackground(false);
+    page->setBackgroundRole(QPalette::Base);
     area->viewport()->setAutoFillBackground(false);
     addTab(area, caption);
     return page;
@@ -121,6 +123,15 @@ void ProfileTabs::addElements() {
     column->setSpacing(betweenGroups);
     column->addWidget(new PicturePanel(u"vsElement"_s, PicturePanel::Place::Beside, page));
     column->addWidget(new CaptionLabel(u"lblElementDescription"_s, page), 1);
+}
+
+void ProfileTabs::paintEvent(QPaintEvent* /*event*/) {
+    // The style's own frame is made of translucent lines. Qt hands each of them to threads, which it would
+    // have to start for the first window's sake.
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush(palette().color(QPalette::Base));
+    painter.drawRect(QRect(0, bar_->height() - 1, width() - 1, height() - bar_->height()));
 }
 
 void ProfileTabs::setAccent(const std::optional<QColor>& color) {

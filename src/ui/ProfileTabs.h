@@ -23,6 +23,9 @@ public:
     /// What Tab visits here, in its order.
     [[nodiscard]] std::vector<QWidget*> tabStops() const;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     QWidget* addPage(const QString& name, const QString& caption);
     void addSummary();

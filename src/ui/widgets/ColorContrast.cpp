@@ -34,6 +34,12 @@ QColor ColorContrast::textOn(const QColor& ground) {
     return ratio(Qt::white, ground) >= ratio(Qt::black, ground) ? QColor(Qt::white) : QColor(Qt::black);
 }
 
+QColor ColorContrast::between(const QColor& one, const QColor& other, double share) {
+    const auto channel = [share](int from, int to) { return from + qRound(share * (to - from)); };
+    return QColor(channel(one.red(), other.red()), channel(one.green(), other.green()),
+                  channel(one.blue(), other.blue()));
+}
+
 bool ColorContrast::isDark(const QPalette& palette) {
     return luminance(palette.color(QPalette::Window)) < luminance(palette.color(QPalette::WindowText));
 }

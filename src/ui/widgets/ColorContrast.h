@@ -15,6 +15,9 @@ namespace ColorContrast {
 /// Ink or white, whichever stands out more on the ground; at least 4.5 to 1 on any ground.
 [[nodiscard]] QColor textOn(const QColor& ground);
 
+/// The colour that lies so far from the one to the other, 0 to 1.
+[[nodiscard]] QColor between(const QColor& one, const QColor& other, double share);
+
 /// Whether the desktop's palette is a dark one.
 [[nodiscard]] bool isDark(const QPalette& palette);
 

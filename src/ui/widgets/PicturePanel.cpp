@@ -1,6 +1,7 @@
 #include "ui/widgets/PicturePanel.h"
 
 #include "ui/widgets/Caption.h"
+#include "ui/widgets/ColorContrast.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -89,11 +90,12 @@ void PicturePanel::paintEvent(QPaintEvent* /*event*/) {
     if (!picture_.isNull()) {
         picture_.paint(&painter, pictureRect());
     } else if (placeMarked_) {
-        constexpr float faint = 0.08F;
-        QColor mark = palette().color(QPalette::WindowText);
-        mark.setAlphaF(faint);
+        constexpr double faint = 0.08;
         painter.setPen(Qt::NoPen);
-        painter.setBrush(mark);
+        // An opaque colour: Qt hands every translucent fill with smooth edges to threads, which costs more
+        // than the fill.
+        painter.setBrush(ColorContrast::between(palette().color(backgroundRole()),
+                                                palette().color(QPalette::WindowText), faint));
         painter.drawRoundedRect(pictureRect(), corner, corner);
     }
     paintCaption(painter);

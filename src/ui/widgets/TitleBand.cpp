@@ -57,6 +57,7 @@ void TitleBand::addWidget(QWidget* widget) {
 void TitleBand::colorWidgets() {
     for (auto* widget : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
         QPalette colors = widget->palette();
+        colors.setColor(QPalette::Window, ground());
         colors.setColor(QPalette::WindowText, textColor());
         widget->setPalette(colors);
     }

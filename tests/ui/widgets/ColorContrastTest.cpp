@@ -21,6 +21,14 @@ TEST(ColorContrast, textOn_everyGround_isLegible) {
     }
 }
 
+TEST(ColorContrast, between_goesFromTheOneToTheOther) {
+    const QColor one(10, 200, 0);
+    const QColor other(20, 100, 255);
+    EXPECT_EQ(ColorContrast::between(one, other, 0), one);
+    EXPECT_EQ(ColorContrast::between(one, other, 1), other);
+    EXPECT_EQ(ColorContrast::between(one, other, 0.5), QColor(15, 150, 128));
+}
+
 TEST(ColorContrast, paperGrey_followsTheDesktopsTheme) {
     QPalette light;
     light.setColor(QPalette::Window, Qt::white);
