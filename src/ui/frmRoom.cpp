@@ -374,11 +374,15 @@ void frmRoom::askToSave() {
         Global::service(&Services::prompts)
             .messageBox(u"Close"_s, u"Would you like to save your changes before closing?"_s,
                         MessageIcon::Question, MessageButtons::YesNo);
-    if (answer == MessageAnswer::Yes) {
-        mnuFileSave_Click();
-    } else {
+    if (answer == MessageAnswer::No) {
         RoomChanged = false;
+        return;
     }
+    const bool savedBefore = RoomSaved;
+    RoomSaved = false;
+    mnuFileSave_Click();
+    RoomChanged = !RoomSaved; // numbers that the save wrote anew on the screen are no reason to ask again
+    RoomSaved = RoomSaved || savedBefore;
 }
 
 void frmRoom::mnuFileClose_Click() {

@@ -191,6 +191,15 @@ TEST_F(frmRoomSaveTest, closeAnsweredWithYes_savesAndWithNo_doesNot) {
     }
 }
 
+TEST_F(frmRoomSaveTest, closeAndSave_ofNumbersThatTheSaveRewrites_asksOnce) {
+    EXPECT_TRUE(open(kitchen, [this](QWidget& window) {
+        enter(window, "txtLengthIn", u"30"_s);
+        expectCloseQuestion(MessageAnswer::Yes);
+        click(window, "cmdCancel");
+    }));
+    EXPECT_EQ(stored(kitchen, "LENGTH"), u"186"_s);
+}
+
 TEST_F(frmRoomSaveTest, roomThatIsGone_keepsTheChangesAndAsksTwice) {
     const QByteArray before = world_.read(u"Rooms.xml"_s);
     EXPECT_FALSE(open(999, [this](QWidget& window) {
