@@ -140,6 +140,10 @@ void LocationPane::LoadScreenfromLocation() {
         ui_.vsTopLocation->setCaption(captionText(home.DESCRIPTION));
         ui_.cboLocation->setEditText(home.DESCRIPTION);
         ui_.txtLocation->setText(home.DESCRIPTION);
+        // What the last home had must not stay where this one's plan has no size.
+        floors_.Clear();
+        plan_->ClearList();
+        plan_->hideRooms();
         plan_->setScale();
         FillFloors();
         if (floors_.ListCount() > 0) {
@@ -180,6 +184,8 @@ void LocationPane::FillFloors() {
         }
         if (floors_.ListCount() > 0) {
             floors_.setListIndex(0);
+        } else {
+            plan_->FillRooms(); // no floor is chosen that would take the last one's rooms away
         }
     });
 }

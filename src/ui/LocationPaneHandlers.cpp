@@ -201,9 +201,6 @@ void LocationPane::mnuLocationsDeleteFloor_Click() {
             return;
         }
         FillFloors();
-        if (floors_.ListCount() == 0) {
-            plan_->FillRooms(); // no floor was chosen that would have taken the deleted one's rooms away
-        }
     });
 }
 

@@ -139,6 +139,30 @@ TEST_F(LocationPaneTest, choosingAHome_showsAndRemembersIt) {
     EXPECT_EQ(floors(), QStringList());
 }
 
+TEST_F(LocationPaneTest, choosingAHomeWithoutFloors_takesTheLastOnesRoomsAway) {
+    world_.write(u"Locations.xml"_s, recordFile({R"(<z:row LOCATIONID="1" DESCRIPTION="Elm Street"/>)",
+                                                 R"(<z:row LOCATIONID="2" DESCRIPTION="Oak"/>)"}));
+    start();
+    ASSERT_EQ(visibleRooms(), 9);
+    QTest::keyClick(&control(*view_, "cboLocation"), Qt::Key_Down);
+    EXPECT_EQ(band(), u"Oak"_s);
+    EXPECT_EQ(listed(), QStringList());
+    EXPECT_EQ(visibleRooms(), 0);
+    EXPECT_FALSE(entryEnabled("mnuLocationsOpenRoom"));
+}
+
+TEST_F(LocationPaneTest, choosingAHomeThatCannotBeShown_takesTheLastOnesFloorsAway) {
+    world_.write(u"Locations.xml"_s,
+                 recordFile({R"(<z:row LOCATIONID="1" DESCRIPTION="Elm Street"/>)",
+                             R"(<z:row LOCATIONID="2" DESCRIPTION="Oak" PLANLENGTH="0"/>)"}));
+    start();
+    world_.prompts.expectError(u"frmView.ClearScreenLocation"_s, 380, u"Invalid property value"_s);
+    QTest::keyClick(&control(*view_, "cboLocation"), Qt::Key_Down);
+    EXPECT_EQ(band(), u"Oak"_s);
+    EXPECT_EQ(floors(), QStringList()); // a room added now would stand on a floor of the other home
+    EXPECT_EQ(visibleRooms(), 0);
+}
+
 TEST_F(LocationPaneTest, planSizeOfZero_isReportedAndThePaneGoesOn) {
     world_.write(u"Locations.xml"_s,
                  world_.read(u"Locations.xml"_s).replace("PLANLENGTH=\"600\"", "PLANLENGTH=\"0\""));
