@@ -6,6 +6,7 @@
 #include "ui/platform/SystemBrowser.h"
 #include "ui/platform/SystemClock.h"
 #include "ui/platform/SystemPrinter.h"
+#include "ui/widgets/ColorContrast.h"
 #include "ui/widgets/SvgIcon.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Talivane"));
     // The name under which desktops know the program's entry and icon.
     QApplication::setDesktopFileName(QStringLiteral("com.orvenel.Talivane"));
+    QApplication::setPalette(ColorContrast::legibleSelection(QApplication::palette()));
     QApplication::setWindowIcon(svgIcon(QStringLiteral(":/talivane/pictures/talivane.svg")));
 
     DialogPrompts prompts;

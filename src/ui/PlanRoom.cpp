@@ -3,6 +3,7 @@
 #include "core/Failure.h"
 #include "ui/FeetInches.h"
 #include "ui/PlanView.h"
+#include "ui/widgets/AccessibleRole.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -33,6 +34,7 @@ PlanRoom::PlanRoom(qint32 index, PlanView& plan)
     , plan_(plan)
     , index_(index) {
     setObjectName(QStringLiteral("recRoom"));
+    setAccessibleRole(*this, QAccessible::ListItem);
     setFocusPolicy(Qt::ClickFocus);
     setCursor(Qt::OpenHandCursor);
     setAttribute(Qt::WA_OpaquePaintEvent);

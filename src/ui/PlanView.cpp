@@ -2,6 +2,7 @@
 
 #include "core/Failure.h"
 #include "ui/PlanRoom.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/PaperShadow.h"
 
 #include <QPaintEvent>
@@ -40,6 +41,7 @@ int pixel(double position) {
 PlanView::PlanView(QWidget* parent)
     : QWidget(parent) {
     setObjectName(QStringLiteral("picFloorPlan"));
+    setAccessibleRole(*this, QAccessible::List);
     setAccessibleName(tr("Floor plan"));
 }
 

@@ -1,6 +1,7 @@
 #include "ui/ProfileTabs.h"
 
 #include "ui/widgets/AccentTabBar.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/CaptionLabel.h"
 #include "ui/widgets/PicturePanel.h"
 
@@ -51,6 +52,7 @@ ProfileTabs::ProfileTabs(QWidget* parent)
 QWidget* ProfileTabs::addPage(const QString& name, const QString& caption) {
     auto* area = new QScrollArea(this);
     area->setObjectName(name + u"Area"_s);
+    setAccessibleRole(*area, QAccessible::Pane);
     area->setAccessibleName(caption);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);

@@ -1,5 +1,6 @@
+#include "pictures/ContactSheet.h"
+
 #include "pictures/PictureFile.h"
-#include "pictures/WindowPictures.h"
 
 #include <QApplication>
 #include <QDir>

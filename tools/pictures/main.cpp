@@ -2,21 +2,28 @@
 #include "core/Global.h"
 #include "core/Prompts.h"
 #include "core/clsRegistry.h"
+#include "pictures/ContactSheet.h"
+#include "pictures/DarkPalette.h"
 #include "pictures/PictureFile.h"
 #include "pictures/ReportPictures.h"
-#include "pictures/WindowPictures.h"
+#include "pictures/WindowTour.h"
 #include "ui/frmView.h"
 #include "ui/platform/QSettingsStore.h"
 #include "ui/platform/SystemBrowser.h"
 #include "ui/platform/SystemClock.h"
 #include "ui/platform/SystemPrinter.h"
+#include "ui/widgets/ColorContrast.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFont>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <QWidget>
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 
 namespace {
@@ -50,57 +57,63 @@ void copyFiles(const QString& from, const QString& to) {
     }
 }
 
-/// Describes a screen on which every window has the size that it is designed in, at 200% as well. The path is
-/// that of the description.
-QString largeScreen(const QTemporaryDir& folder) {
+/// Describes a screen of that size; on one that is large enough every window has the size that it is designed
+/// in, at 200% as well. The path is that of the description.
+QString describedScreen(const QTemporaryDir& folder, QSize size) {
     QString path = folder.filePath(QStringLiteral("screen.json"));
     QFile file(path);
+    const QString description =
+        QStringLiteral(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": %1, "height": %2,)"
+                       R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
     if (!file.open(QIODevice::WriteOnly) ||
-        file.write(R"({"screens": [{"name": "large", "x": 0, "y": 0, "width": 2880, "height": 2000,)"
-                   R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})") < 0) {
+        file.write(description.arg(size.width()).arg(size.height()).toUtf8()) < 0) {
         stop(QStringLiteral("cannot write ") + path);
     }
     return path;
 }
 
-QPalette darkPalette() {
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(0x2E2E2E));
-    palette.setColor(QPalette::WindowText, QColor(0xEDEDED));
-    palette.setColor(QPalette::Base, QColor(0x1F1F1F));
-    palette.setColor(QPalette::AlternateBase, QColor(0x2A2A2A));
-    palette.setColor(QPalette::ToolTipBase, QColor(0x3A3A3A));
-    palette.setColor(QPalette::ToolTipText, QColor(0xEDEDED));
-    palette.setColor(QPalette::Text, QColor(0xEDEDED));
-    palette.setColor(QPalette::Button, QColor(0x3A3A3A));
-    palette.setColor(QPalette::ButtonText, QColor(0xEDEDED));
-    palette.setColor(QPalette::Mid, QColor(0x4A4A4A));
-    palette.setColor(QPalette::Highlight, QColor(0x3D7EBF));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, QColor(0x8A8A8A));
-    }
-    return palette;
-}
+/// How the windows are shown in one set of pictures.
+struct Mode {
+    const char* name;
+    QSize screen = QSize(2880, 2000);
+    const char* scale = "1";
+    bool dark = false;
+    int points = 0;
+};
+
+/// The sets: 14pt has the desktop's text at 14 points, small a screen of 1024 by 700.
+const std::array<Mode, 5> modes{{{.name = "light"},
+                                 {.name = "dark", .dark = true},
+                                 {.name = "200", .scale = "2"},
+                                 {.name = "14pt", .points = 14},
+                                 {.name = "small", .screen = QSize(1024, 700)}}};
 
 } // namespace
 
-/// Renders the windows and the record pictures in the light theme, the dark theme or at 200%, on a copy of
-/// the sample household; in the light theme the report pages as well.
+/// Renders the windows and the record pictures in one of the modes, on a copy of the sample household; in the
+/// light theme the report pages as well.
 int main(int argc, char** argv) {
+    const QString wanted = argc == 4 ? QString::fromLocal8Bit(argv[3]) : QString();
+    const auto* mode =
+        std::ranges::find(modes, wanted, [](const Mode& each) { return QString::fromLatin1(each.name); });
+    if (mode == modes.end()) {
+        stop(QStringLiteral("usage: talivane_pictures DATA_DIR OUT_DIR light|dark|200|14pt|small"));
+    }
     const QTemporaryDir records;
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + largeScreen(records).toLocal8Bit());
-    const QString mode = argc == 4 ? QString::fromLocal8Bit(argv[3]) : QString();
-    if (mode == u"200") {
-        qputenv("QT_SCALE_FACTOR", "2");
-    }
+    qputenv("QT_QPA_PLATFORM",
+            "offscreen:configfile=" + describedScreen(records, mode->screen).toLocal8Bit());
+    qputenv("QT_SCALE_FACTOR", mode->scale);
     const QApplication application(argc, argv);
-    if (mode != u"light" && mode != u"dark" && mode != u"200") {
-        stop(QStringLiteral("usage: talivane_pictures DATA_DIR OUT_DIR light|dark|200"));
-    }
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    if (mode == u"dark") {
+    if (mode->dark) {
         QApplication::setPalette(darkPalette());
+    }
+    QApplication::setPalette(
+        ColorContrast::legibleSelection(QApplication::palette()).resolve(QApplication::palette()));
+    if (mode->points > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(mode->points);
+        QApplication::setFont(font);
     }
     const QString data = QString::fromLocal8Bit(argv[1]);
     const QString folder = QString::fromLocal8Bit(argv[2]);
@@ -128,11 +141,14 @@ int main(int argc, char** argv) {
                                   Global::settingsSection(QStringLiteral("StartUp")), name, 1);
     }
     Global::Main();
-    const QString suffix = mode == u"light" ? QString() : u'-' + mode;
+    const bool isLight = mode == modes.begin();
+    const QString suffix = isLight ? QString() : u'-' + wanted;
     QApplication::processEvents();
-    takeWindowPictures(mainWindow, folder, suffix);
+    visitWindows(mainWindow, [&](QWidget& window, const QString& name) {
+        savePicture(window.grab().toImage(), folder + u'/' + name + suffix + QStringLiteral(".png"));
+    });
     drawContactSheet(folder, suffix);
-    if (mode == u"light") {
+    if (isLight) {
         const QString pages = folder + QStringLiteral("/pages");
         if (!QDir().mkpath(pages)) {
             stop(QStringLiteral("cannot make ") + pages);

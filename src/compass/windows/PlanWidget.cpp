@@ -1,6 +1,7 @@
 #include "compass/windows/PlanWidget.h"
 
 #include "compass/windows/PlanPainter.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/PaperShadow.h"
 
 #include <QKeyEvent>
@@ -25,6 +26,7 @@ QPointF inPlan(const PlanScale& scale, double x, double y) {
 PlanWidget::PlanWidget(QWidget* parent)
     : QWidget(parent) {
     setObjectName(QStringLiteral("picFloorPlan"));
+    setAccessibleRole(*this, QAccessible::Graphic);
     setAccessibleName(tr("Floor plan with compass"));
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);

@@ -1,10 +1,13 @@
 #include "core/windows/DayGrid.h"
 
+#include "ui/widgets/AccessibleRole.h"
+
 #include <QPainter>
 
 DayGrid::DayGrid(QWidget* parent)
     : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleRole(*this, QAccessible::Grouping);
 }
 
 void DayGrid::paintEvent(QPaintEvent* /*event*/) {

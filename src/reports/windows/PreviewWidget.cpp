@@ -2,6 +2,7 @@
 
 #include "reports/pages/PagePainter.h"
 #include "reports/pages/PageSurface.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/PaperShadow.h"
 
 #include <QKeyEvent>
@@ -42,6 +43,7 @@ PreviewWidget::PreviewWidget(PageSurface& surface, QWidget* parent)
     : QAbstractScrollArea(parent)
     , surface_(surface) {
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleRole(*this, QAccessible::Document);
     setAccessibleName(tr("Report"));
     horizontalScrollBar()->setSingleStep(scrollStep);
     verticalScrollBar()->setSingleStep(scrollStep);

@@ -44,6 +44,25 @@ bool ColorContrast::isDark(const QPalette& palette) {
     return luminance(palette.color(QPalette::Window)) < luminance(palette.color(QPalette::WindowText));
 }
 
+QPalette ColorContrast::legibleSelection(const QPalette& palette) {
+    constexpr double legible = 4.5;
+    constexpr int step = 104; // per cent
+    constexpr int most = 64;
+    QPalette selection;
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor text = palette.color(group, QPalette::HighlightedText);
+        QColor ground = palette.color(group, QPalette::Highlight);
+        const bool lightText = luminance(text) > luminance(ground);
+        for (int i = 0; i < most && ratio(text, ground) < legible; ++i) {
+            ground = lightText ? ground.darker(step) : ground.lighter(step);
+        }
+        selection.setColor(group, QPalette::Highlight, ground);
+        selection.setColor(group, QPalette::HighlightedText,
+                           ratio(text, ground) < legible ? textOn(ground) : text);
+    }
+    return selection;
+}
+
 QColor ColorContrast::paperGrey(const QPalette& palette) {
     return isDark(palette) ? QColor(0x3A, 0x36, 0x2F) : QColor(0xE9, 0xE3, 0xD6);
 }

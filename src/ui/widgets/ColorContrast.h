@@ -21,6 +21,11 @@ namespace ColorContrast {
 /// Whether the desktop's palette is a dark one.
 [[nodiscard]] bool isDark(const QPalette& palette);
 
+/// The palette with a selection whose text stands out by 4.5 to 1 at least: what falls short of it gets a
+/// darker ground, or a lighter one under dark text. Only these colours count as set, so that the others go on
+/// following the desktop.
+[[nodiscard]] QPalette legibleSelection(const QPalette& palette);
+
 /// The ground of bands that have no colour of their own: a warm grey of paper.
 [[nodiscard]] QColor paperGrey(const QPalette& palette);
 

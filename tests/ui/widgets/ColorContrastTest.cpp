@@ -29,6 +29,35 @@ TEST(ColorContrast, between_goesFromTheOneToTheOther) {
     EXPECT_EQ(ColorContrast::between(one, other, 0.5), QColor(15, 150, 128));
 }
 
+TEST(ColorContrast, legibleSelection_ofAnyColourUnderEitherText_isLegible) {
+    constexpr int step = 51;
+    for (const QColor& text : {QColor(Qt::white), QColor(Qt::black)}) {
+        for (int hue = 0; hue < 360; hue += step) {
+            for (int value = 0; value <= 255; value += step) {
+                QPalette palette;
+                palette.setColor(QPalette::Highlight, QColor::fromHsv(hue, 200, value));
+                palette.setColor(QPalette::HighlightedText, text);
+                const QPalette legible = ColorContrast::legibleSelection(palette);
+                ASSERT_GE(ColorContrast::ratio(legible.color(QPalette::Highlight),
+                                               legible.color(QPalette::HighlightedText)),
+                          4.5)
+                    << hue << ' ' << value;
+            }
+        }
+    }
+}
+
+TEST(ColorContrast, legibleSelection_changesNothingThatIsLegibleAndNothingElse) {
+    QPalette palette;
+    palette.setColor(QPalette::Highlight, Qt::darkBlue);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Window, Qt::red);
+    const QPalette legible = ColorContrast::legibleSelection(palette);
+    EXPECT_EQ(legible.color(QPalette::Highlight), QColor(Qt::darkBlue));
+    EXPECT_EQ(legible.color(QPalette::HighlightedText), QColor(Qt::white));
+    EXPECT_FALSE(legible.isBrushSet(QPalette::Active, QPalette::Window));
+}
+
 TEST(ColorContrast, paperGrey_followsTheDesktopsTheme) {
     QPalette light;
     light.setColor(QPalette::Window, Qt::white);

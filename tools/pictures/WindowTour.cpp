@@ -1,4 +1,4 @@
-#include "pictures/WindowPictures.h"
+#include "pictures/WindowTour.h"
 
 #include "pictures/PictureFile.h"
 
@@ -13,10 +13,10 @@
 
 namespace {
 
-/// A picture, and the steps that lead to it from the main window, each in the window that the one before has
-/// opened: a menu entry or button is pressed, an entry of a list or a page of a tab chosen by its number
+/// A stop's name, and the steps that lead to it from the main window, each in the window that the one before
+/// has opened: a menu entry or button is pressed, an entry of a list or a page of a tab chosen by its number
 /// ("tabs=2"), a text entered or chosen ("date=3/15/2027").
-struct WindowPicture {
+struct WindowStop {
     const char* name;
     QStringList steps;
 };
@@ -24,7 +24,7 @@ struct WindowPicture {
 const QString profiles = QStringLiteral("PROFILE");
 const QString homes = QStringLiteral("LOCATION");
 
-QList<WindowPicture> windowPictures() {
+QList<WindowStop> windowStops() {
     const QString rooms = QStringLiteral("lstRooms=1");
     const QString openRoom = QStringLiteral("mnuLocationsOpenRoom");
     const QString date = QStringLiteral("txtMoveDate=3/15/2027");
@@ -78,12 +78,11 @@ void perform(QWidget& window, const QString& step) {
     }
 }
 
-void take(QWidget& window, QStringList steps, const QString& path) {
-    constexpr int untilLaidOut = 100;
+void walk(QWidget& window, QStringList steps, const std::function<void(QWidget&)>& visit) {
     while (!steps.isEmpty()) {
         const QString step = steps.takeFirst();
         bool opened = false;
-        QTimer watch;
+        QTimer watch; // gone again where the step opens no window
         watch.setSingleShot(true);
         watch.callOnTimeout([&] {
             QWidget* next = QApplication::activeModalWidget();
@@ -91,24 +90,23 @@ void take(QWidget& window, QStringList steps, const QString& path) {
                 stop(QStringLiteral("no window came for ") + step);
             }
             opened = true;
-            take(*next, steps, path);
+            walk(*next, steps, visit);
             next->close();
         });
-        watch.start(untilLaidOut);
+        watch.start(0);
         perform(window, step);
         if (opened) {
             return;
         }
     }
     QApplication::processEvents();
-    savePicture(window.grab().toImage(), path);
+    visit(window);
 }
 
 } // namespace
 
-void takeWindowPictures(QWidget& mainWindow, const QString& folder, const QString& suffix) {
-    for (const WindowPicture& picture : windowPictures()) {
-        take(mainWindow, picture.steps,
-             folder + u'/' + QString::fromLatin1(picture.name) + suffix + QStringLiteral(".png"));
+void visitWindows(QWidget& mainWindow, const std::function<void(QWidget&, const QString&)>& visit) {
+    for (const WindowStop& next : windowStops()) {
+        walk(mainWindow, next.steps, [&](QWidget& window) { visit(window, QString::fromLatin1(next.name)); });
     }
 }
