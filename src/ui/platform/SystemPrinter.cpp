@@ -1,12 +1,17 @@
 #include "ui/platform/SystemPrinter.h"
 
 #include "core/Failure.h"
+#include "core/ReplaceFile.h"
 #include "core/VersionRecord.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScopeGuard>
+#include <QTemporaryFile>
 
 #include <algorithm>
 #include <vector>
@@ -66,6 +71,46 @@ void fitPage(QPainter& painter, const QPrinter& device, QSizeF page) {
     painter.scale(scale, scale);
 }
 
+/// Puts the pages on the device; false when it refuses.
+bool printPages(QPrinter& printer, const std::vector<qint32>& pages, const PrintableDocument& document) {
+    QPainter painter;
+    if (!painter.begin(&printer)) {
+        return false;
+    }
+    bool first = true;
+    for (const qint32 page : pages) {
+        if (!first && !printer.newPage()) {
+            printer.abort();
+            return false;
+        }
+        first = false;
+        painter.save();
+        fitPage(painter, printer, document.pageSize);
+        document.paint(painter, page);
+        painter.restore();
+    }
+    return painter.end() && printer.printerState() != QPrinter::Error;
+}
+
+/// Prints into a file of the printer's own first, so that the file which the user named keeps what it held
+/// when the printing fails.
+void printIntoFile(QPrinter& printer, const std::vector<qint32>& pages, const PrintableDocument& document) {
+    const QString named = printer.outputFileName();
+    QTemporaryFile draft(QDir::temp().filePath(QStringLiteral("talivane-XXXXXX.pdf")));
+    bool whole = draft.open();
+    if (whole) {
+        const auto nameBack = qScopeGuard([&] { printer.setOutputFileName(named); });
+        printer.setOutputFileName(draft.fileName());
+        whole = printPages(printer, pages, document);
+    }
+    QFile printed(draft.fileName());
+    const QByteArray pdf = whole && printed.open(QIODevice::ReadOnly) ? printed.readAll() : QByteArray();
+    if (!pdf.trimmed().endsWith("%%EOF")) { // the printer does not always tell when its file finds no room
+        throw failure(ErrorNumber::DiskFull);
+    }
+    replaceFile(named, [&pdf](QIODevice& file) { file.write(pdf); });
+}
+
 } // namespace
 
 SystemPrinter::SystemPrinter() = default;
@@ -107,23 +152,9 @@ void SystemPrinter::printOnDevice(const PrintableDocument& document) {
     if (pages.empty()) {
         return;
     }
-    QPainter painter;
-    if (!painter.begin(&printer)) {
-        throw printerError();
-    }
-    bool first = true;
-    for (const qint32 page : pages) {
-        if (!first && !printer.newPage()) {
-            printer.abort();
-            throw printerError();
-        }
-        first = false;
-        painter.save();
-        fitPage(painter, printer, document.pageSize);
-        document.paint(painter, page);
-        painter.restore();
-    }
-    if (!painter.end() || printer.printerState() == QPrinter::Error) {
+    if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty()) {
+        printIntoFile(printer, pages, document);
+    } else if (!printPages(printer, pages, document)) {
         throw printerError();
     }
 }

@@ -9,11 +9,10 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <functional>
 
 #ifdef Q_OS_UNIX
-#include <sys/resource.h>
+#include "support/FileSizeLimit.h"
 #endif
 
 namespace {
@@ -95,27 +94,6 @@ TEST_F(DocumentFilesTest, ExportFile_thatIsNoFile_failsAndStaysWhatItIs) {
 }
 
 #ifdef Q_OS_UNIX
-/// Lets no file of this process grow beyond a size, as a full disk does.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &kept_);
-        const rlimit limit{bytes, kept_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &kept_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-private:
-    void (*handler_)(int);
-    rlimit kept_{};
-};
-
 TEST_F(DocumentFilesTest, writingThatFindsNoRoom_failsAndKeepsTheOldFile) {
     const QString file = path(QStringLiteral("Temp.html"));
     surface.ExportFile(file);

@@ -12,6 +12,10 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#ifdef Q_OS_UNIX
+#include "support/FileSizeLimit.h"
+#endif
+
 namespace {
 
 class SystemPrinterTest : public testing::Test {
@@ -149,13 +153,33 @@ TEST_F(SystemPrinterTest, print_anEmptyDocument_writesNoFile) {
     EXPECT_FALSE(QFile::exists(file_));
 }
 
-TEST_F(SystemPrinterTest, print_whereNoFileCanBe_failsAsAPrinterError) {
+TEST_F(SystemPrinterTest, print_whereNoFileCanBe_tellsWhy) {
     printer_.device().setOutputFileName(folder_.path() + QStringLiteral("/missing/report.pdf"));
     try {
         printer_.printOnDevice(document(1));
         FAIL() << "the printer took it";
     } catch (const Failure& refused) {
-        EXPECT_EQ(refused.number, 482);
-        EXPECT_EQ(refused.description, QStringLiteral("Printer error"));
+        EXPECT_EQ(refused.number, 76);
+        EXPECT_EQ(refused.description, QStringLiteral("Path not found"));
     }
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(SystemPrinterTest, print_thatFindsNoRoom_isDiskFullAndKeepsWhatStandsThere) {
+    QFile earlier(file_);
+    ASSERT_TRUE(earlier.open(QIODevice::WriteOnly));
+    earlier.write("an earlier report");
+    earlier.close();
+    try {
+        const FileSizeLimit limit(500);
+        printer_.printOnDevice(document(1));
+        ADD_FAILURE() << "the printer took it";
+    } catch (const Failure& refused) {
+        EXPECT_EQ(refused.number, 61);
+        EXPECT_EQ(refused.description, QStringLiteral("Disk full"));
+    }
+    EXPECT_EQ(printer_.device().outputFileName(), file_);
+    ASSERT_TRUE(earlier.open(QIODevice::ReadOnly));
+    EXPECT_EQ(earlier.readAll().toStdString(), "an earlier report");
+}
+#endif
