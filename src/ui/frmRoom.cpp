@@ -338,10 +338,13 @@ void frmRoom::mnuFileSave_Click() {
                 return;
             }
             LoadRoomFromScreen();
-            if (room().InsertRoom()) {
-                // The new key is in the store alone; the advice and the next save need it here.
-                cXMLHandler& store = RecordStore::opened(room().oXMLRooms);
-                room().GetRoom(Conversion::toLong(store.GetAttribute(u"ROOMID"_s)));
+            // The new key is in the store alone; the advice and the next save need it here. A store whose
+            // file could not be read took nothing up and has none: the entry stays unsaved.
+            const QString key = room().InsertRoom()
+                                    ? RecordStore::opened(room().oXMLRooms).GetAttribute(u"ROOMID"_s)
+                                    : QString();
+            if (!key.isEmpty()) {
+                room().GetRoom(Conversion::toLong(key));
                 roomStored();
             }
             Mode = updateMode;

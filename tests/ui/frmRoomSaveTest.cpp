@@ -268,3 +268,23 @@ TEST_F(frmRoomSaveTest, unwritableFile_isReportedByTheStore) {
         click(window, "cmdOK");
     });
 }
+
+TEST_F(frmRoomSaveTest, newRoom_whereTheRoomsCouldNotBeRead_staysUnsavedAndLeavesTheFileAlone) {
+    const QByteArray damaged = world_.read(u"Rooms.xml"_s).chopped(40);
+    world_.write(u"Rooms.xml"_s, damaged);
+    for (const auto& report : {u"Move First"_s, u"Get Max"_s, u"Add New"_s, u"Save Document"_s,
+                               u"Move First"_s, u"Find"_s}) { // the last two by the advice
+        world_.prompts.expectError(u"cXMLHandler."_s + report, report == u"Save Document"_s ? 321 : 91);
+    }
+    expectCloseQuestion(MessageAnswer::No);
+    EXPECT_FALSE(create(1, [this](QWidget& window) {
+        type(window, "txtDescription", u"Nook"_s);
+        for (const char* size : {"txtLengthFt", "txtLengthIn", "txtWidthFt", "txtWidthIn"}) {
+            type(window, size, u"9"_s); // or the sizes that a room gets by default would count as a change
+        }
+        click(window, "cmdOK");
+        EXPECT_TRUE(enabled(window, "cmdOK"));
+        EXPECT_EQ(text(window, "txtDescription"), u"Nook"_s);
+    }));
+    EXPECT_EQ(world_.read(u"Rooms.xml"_s), damaged);
+}
