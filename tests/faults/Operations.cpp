@@ -1,0 +1,355 @@
+#include "faults/Operations.h"
+
+#include "core/Failure.h"
+#include "core/Global.h"
+#include "faults/FaultStage.h"
+#include "support/WindowDriver.h"
+#include "ui/PlanRoom.h"
+#include "ui/PlanView.h"
+#include "ui/widgets/RecordList.h"
+
+#include <QAbstractItemView>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+using namespace WindowDriver;
+
+namespace {
+
+/// So long that a file that takes it up needs more room on the disk.
+const QString longName = QString(9000, u'n');
+
+void enter(QWidget& window, const char* name, const QString& text) {
+    auto& field = control<QLineEdit>(window, name);
+    field.setFocus();
+    field.selectAll();
+    QInputMethodEvent input;
+    input.setCommitString(text);
+    QCoreApplication::sendEvent(&field, &input);
+}
+
+/// Types a name over the one in a list's field.
+void rename(QWidget& window, const char* list, const QString& name) {
+    auto& field = *control<RecordList>(window, list).lineEdit();
+    field.setFocus();
+    field.selectAll();
+    QInputMethodEvent input;
+    input.setCommitString(name);
+    QCoreApplication::sendEvent(&field, &input);
+}
+
+void goToHomes(FaultStage& stage) {
+    QTest::mouseClick(&control<QToolButton>(stage.view(), "LOCATION"), Qt::LeftButton);
+    QApplication::processEvents();
+}
+
+void startAtHomes(FaultStage& stage) {
+    stage.start();
+    goToHomes(stage);
+}
+
+void fillPerson(FaultStage& stage, const QString& name) {
+    enter(stage.view(), "txtProfileName", name);
+    enter(stage.view(), "txtBirthDate", u"2/4/1985"_s);
+    click(stage.view(), "optFemale");
+    click(stage.view(), "cmdCalcProfile");
+}
+
+void fillHome(FaultStage& stage, const QString& name) {
+    enter(stage.view(), "txtLocation", name);
+    enter(stage.view(), "txtNumFloors", u"1"_s);
+}
+
+void chooseSecondPerson(FaultStage& stage) {
+    auto& list = control<RecordList>(stage.view(), "cboProfileName");
+    list.showPopup();
+    list.view()->setCurrentIndex(list.model()->index(1, 0));
+    QTest::keyClick(list.view(), Qt::Key_Return);
+}
+
+void selectKitchen(FaultStage& stage) {
+    control<QListWidget>(stage.view(), "lstRooms").setCurrentRow(0);
+}
+
+/// Opens a window from the menu of the advice and does something in it.
+void advise(FaultStage& stage, const char* entry, const std::function<void(QWidget&)>& inside) {
+    whileModal([&] { choose(stage.view(), "mnuAdvice", entry); }, inside);
+}
+
+void editKitchen(FaultStage& stage, const std::function<void(QWidget&)>& inside) {
+    selectKitchen(stage);
+    whileModal([&] { choose(stage.view(), "mnuLocations", "mnuLocationsOpenRoom"); }, inside);
+}
+
+/// Enters a new room. The sizes that it gets by default count as a change after the save; the question about
+/// them is answered with No.
+void newRoom(FaultStage& stage, const std::function<void(QWidget&)>& inside) {
+    stage.boxes.answer = MessageAnswer::No;
+    whileModal([&] { click(stage.view(), "cmdRoom"); }, inside);
+}
+
+void adviseOnDate(QWidget& window) {
+    enter(window, "txtMoveDate", u"6/1/2026"_s);
+    click(window, "cmdAdvise0");
+}
+
+void saveAsHtml(QWidget& window) {
+    choose(window, "mnuFile", "mnuFileSaveAs");
+}
+
+/// A printer that was chosen and then vanished.
+class VanishedPrinter final : public Printer {
+public:
+    bool choose() override { return true; }
+    void print(const PrintableDocument& /*document*/) override {
+        throw Failure{482, QStringLiteral("Printer error")};
+    }
+};
+
+void openHelp(FaultStage& stage, const char* entry) {
+    ScriptedBrowser none;
+    none.associated = false;
+    stage.start();
+    Services services = Global::services();
+    services.browser = &none;
+    Global::use(services);
+    stage.strike();
+    choose(stage.view(), "mnuHelp", entry);
+}
+
+void dragKitchen(FaultStage& stage) {
+    auto& plan = control<PlanView>(stage.view(), "picFloorPlan");
+    PlanRoom* kitchen = plan.findChildren<PlanRoom*>().constFirst();
+    const auto send = [&](QEvent::Type type, QPointF onScreen, Qt::MouseButton button,
+                          Qt::MouseButtons buttons) {
+        QMouseEvent event(type, kitchen->mapFromGlobal(onScreen), onScreen, button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(kitchen, &event);
+    };
+    const QPointF from = kitchen->mapToGlobal(QPointF(20, 20));
+    const QPointF to = from + QPointF(40, 40);
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, (from + to) / 2, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+}
+
+} // namespace
+
+namespace Operations {
+
+const Operation start{"start", [](FaultStage& stage) {
+                          stage.strike();
+                          stage.start();
+                      }};
+
+const Operation startAndAddPerson{"start and add a person", [](FaultStage& stage) {
+                                      stage.strike();
+                                      stage.start();
+                                      fillPerson(stage, u"New"_s);
+                                      click(stage.view(), "cmdSaveProfile");
+                                  }};
+
+const Operation startAndAddHome{"start and add a home", [](FaultStage& stage) {
+                                    stage.strike();
+                                    startAtHomes(stage);
+                                    if (stage.view().Mode != u"INSERT"_s) {
+                                        click(stage.view(), "cmdNewLocation");
+                                    }
+                                    fillHome(stage, u"New"_s);
+                                    click(stage.view(), "cmdSaveLocation");
+                                }};
+
+const Operation startAndAddRoom{"start and add a room", [](FaultStage& stage) {
+                                    stage.strike();
+                                    startAtHomes(stage);
+                                    newRoom(stage, [](QWidget& window) {
+                                        enter(window, "txtDescription", u"New"_s);
+                                        click(window, "cmdOK");
+                                    });
+                                }};
+
+const Operation startChooseAndEnd{"start, choose a person and end", [](FaultStage& stage) {
+                                      stage.strike();
+                                      stage.start();
+                                      chooseSecondPerson(stage);
+                                      stage.view().close();
+                                  }};
+
+const Operation choosePerson{"choose a person", [](FaultStage& stage) {
+                                 stage.start();
+                                 stage.strike();
+                                 chooseSecondPerson(stage);
+                             }};
+
+const Operation showHomes{"show the homes", [](FaultStage& stage) {
+                              stage.start();
+                              stage.strike();
+                              goToHomes(stage);
+                          }};
+
+const Operation openRoom{"open a room", [](FaultStage& stage) {
+                             startAtHomes(stage);
+                             stage.strike();
+                             editKitchen(stage, [](QWidget& window) { click(window, "cmdCancel"); });
+                         }};
+
+const Operation reportRooms{"report on the rooms", [](FaultStage& stage) {
+                                stage.start();
+                                stage.strike();
+                                advise(stage, "mnuAdviceRooms",
+                                       [](QWidget& window) { click(window, "cmdOK"); });
+                            }};
+
+const Operation chartYear{"chart a year", [](FaultStage& stage) {
+                              stage.start();
+                              stage.strike();
+                              advise(stage, "mnuAdviceNineKi", &adviseOnDate);
+                          }};
+
+const Operation adviseMove{"advise on a move", [](FaultStage& stage) {
+                               stage.start();
+                               stage.strike();
+                               advise(stage, "mnuAdviceMoving", &adviseOnDate);
+                           }};
+
+const Operation renamePerson{"rename a person", [](FaultStage& stage) {
+                                 stage.start();
+                                 rename(stage.view(), "cboProfileName", longName);
+                                 stage.strike();
+                                 click(stage.view(), "cmdSaveProfile");
+                             }};
+
+const Operation addPerson{"add a person", [](FaultStage& stage) {
+                              stage.start();
+                              click(stage.view(), "cmdNewProfile");
+                              fillPerson(stage, longName);
+                              stage.strike();
+                              click(stage.view(), "cmdSaveProfile");
+                          }};
+
+const Operation deletePerson{"delete a person", [](FaultStage& stage) {
+                                 stage.start();
+                                 stage.strike();
+                                 click(stage.view(), "cmdDelProfile");
+                             }};
+
+const Operation renameHome{"rename a home", [](FaultStage& stage) {
+                               startAtHomes(stage);
+                               rename(stage.view(), "cboLocation", longName);
+                               stage.strike();
+                               click(stage.view(), "cmdSaveLocation");
+                           }};
+
+const Operation addHome{"add a home", [](FaultStage& stage) {
+                            startAtHomes(stage);
+                            click(stage.view(), "cmdNewLocation");
+                            fillHome(stage, longName);
+                            stage.strike();
+                            click(stage.view(), "cmdSaveLocation");
+                        }};
+
+const Operation deleteHome{"delete a home", [](FaultStage& stage) {
+                               startAtHomes(stage);
+                               stage.strike();
+                               choose(stage.view(), "mnuLocations", "mnuLocationsDelete");
+                           }};
+
+const Operation addFloor{"add a floor", [](FaultStage& stage) {
+                             startAtHomes(stage);
+                             stage.strike();
+                             choose(stage.view(), "mnuLocations", "mnuLocationsNewFloor");
+                         }};
+
+const Operation addRoom{"add a room", [](FaultStage& stage) {
+                            startAtHomes(stage);
+                            newRoom(stage, [&](QWidget& window) {
+                                enter(window, "txtDescription", longName);
+                                stage.strike();
+                                click(window, "cmdOK");
+                            });
+                        }};
+
+const Operation changeRoom{"change a room", [](FaultStage& stage) {
+                               startAtHomes(stage);
+                               editKitchen(stage, [&](QWidget& window) {
+                                   enter(window, "txtDescription", longName);
+                                   stage.strike();
+                                   click(window, "cmdOK");
+                               });
+                           }};
+
+const Operation removeRoom{"remove a room", [](FaultStage& stage) {
+                               startAtHomes(stage);
+                               selectKitchen(stage);
+                               stage.strike();
+                               click(stage.view(), "cmdDelRoom");
+                           }};
+
+const Operation moveRoom{"move a room", [](FaultStage& stage) {
+                             startAtHomes(stage);
+                             stage.strike();
+                             dragKitchen(stage);
+                         }};
+
+const Operation saveRooms{"save the report on the rooms", [](FaultStage& stage) {
+                              stage.start();
+                              stage.strike();
+                              advise(stage, "mnuAdviceRooms", &saveAsHtml);
+                          }};
+
+const Operation saveRoom{"save the report on a room", [](FaultStage& stage) {
+                             startAtHomes(stage);
+                             stage.strike();
+                             editKitchen(stage, &saveAsHtml);
+                         }};
+
+const Operation saveChart{"save the chart of a year", [](FaultStage& stage) {
+                              stage.start();
+                              stage.strike();
+                              advise(stage, "mnuAdviceNineKi", [](QWidget& window) {
+                                  enter(window, "txtMoveDate", u"6/1/2026"_s);
+                                  saveAsHtml(window);
+                              });
+                          }};
+
+const Operation saveProfile{"save the report on a person", [](FaultStage& stage) {
+                                stage.start();
+                                stage.strike();
+                                advise(stage, "mnuAdviceProfile", &saveAsHtml);
+                            }};
+
+const Operation saveElement{"save the report on an element", [](FaultStage& stage) {
+                                stage.start();
+                                stage.strike();
+                                advise(stage, "mnuAdviceElement", &saveAsHtml);
+                            }};
+
+const Operation printRooms{"print the report on the rooms", [](FaultStage& stage) {
+                               stage.start();
+                               stage.strike();
+                               advise(stage, "mnuAdviceRooms",
+                                      [](QWidget& window) { click(window, "cmdPrint"); });
+                           }};
+
+const Operation printNowhere{"print where no printer is", [](FaultStage& stage) {
+                                 VanishedPrinter printer;
+                                 stage.start();
+                                 Services services = Global::services();
+                                 services.printer = &printer;
+                                 Global::use(services);
+                                 stage.strike();
+                                 advise(stage, "mnuAdviceRooms",
+                                        [](QWidget& window) { click(window, "cmdPrint"); });
+                             }};
+
+const Operation askForQuestions{"open the page of questions",
+                                [](FaultStage& stage) { openHelp(stage, "mnuHelpFaqs"); }};
+
+const Operation askForSupport{"open the page of support",
+                              [](FaultStage& stage) { openHelp(stage, "mnuHelpSupport"); }};
+
+} // namespace Operations

@@ -1,0 +1,117 @@
+#include "faults/FaultTable.h"
+
+using namespace Boxes;
+
+namespace {
+
+/// What keeps a file from being read. That is never reported by itself, but by each use of what it should
+/// have held.
+const std::vector<Fault> unread = {Fault::Missing, Fault::Empty, Fault::Truncated, Fault::Directory,
+                                   Fault::NotReadable};
+/// What does not concern somebody who reads.
+const std::vector<Fault> harmless = {Fault::NotWritable, Fault::LockedUp, Fault::FullDisk};
+
+/// The rows of all data files for one operation that nothing of what keeps a writer away disturbs.
+void addHarmless(FaultTable& rows, const Operation& operation, const QStringList& changed = {}) {
+    for (const char* file : {"Profiles.xml", "Rooms.xml", "KUAYears.xml"}) {
+        rows.push_back({file, harmless, operation, {}, changed});
+    }
+}
+
+} // namespace
+
+FaultTable readingRows() {
+    const Operation start = Operations::start;
+    const Operation choose = Operations::choosePerson;
+    const Operation open = Operations::openRoom;
+    const QStringList settings = {QStringLiteral("settings/Talivane.ini")};
+    FaultTable rows = {
+        // The start: `Main` looks the last home and person up, the window lists all and looks both up again.
+        {"Profiles.xml", unread, start, {find, moveFirst, find}, {}},
+        {"Locations.xml", unread, start, {moveFirst, find, moveFirst, moveFirst, find}, {}},
+        {"Floors.xml", unread, start, {query}, {}},
+        {"Rooms.xml", unread, start, {moveFirst, moveFirst, query}, {}},
+        // The person is looked up twice; each look-up ends at the table that is not there.
+        {"KUAYears.xml", unread, start, {find, find}, {}},
+        {"Directions.xml", unread, start, {find, find}, {}},
+        {"PersonalDirections.xml", unread, start, {advFind, advFind}, {}},
+        {"Elements.xml", unread, start, {find, find}, {}},
+        // The element has its name, and so its four relations are looked up for the pane, colours and all.
+        {"Colors.xml", unread, start, times(6, {find}), {}},
+        {"Symbols.xml", unread, start, {find, find}, {}},
+        {"TimeOfDay.xml", unread, start, {find, find}, {}},
+        {"Trigrams.xml", unread, start, {find, find}, {}},
+        {"Animals.xml", unread, start, {find, find}, {}},
+        {"RoomTypes.xml", unread, start, {}, {}},
+        {"FloorTypes.xml", unread, start, {}, {}},
+
+        // What a person needs is in memory but for the element's relations, which are looked up anew.
+        {"Profiles.xml", unread, choose, {}, settings},
+        {"KUAYears.xml", unread, choose, {}, settings},
+        {"Directions.xml", unread, choose, {}, settings},
+        {"PersonalDirections.xml", unread, choose, {}, settings},
+        {"Elements.xml", unread, choose, times(4, {find}), settings},
+        {"Colors.xml", unread, choose, times(4, {find}), settings},
+        {"Symbols.xml", unread, choose, {}, settings},
+        {"TimeOfDay.xml", unread, choose, {}, settings},
+        {"Trigrams.xml", unread, choose, {}, settings},
+        {"Animals.xml", unread, choose, {}, settings},
+
+        // Homes and floors are in memory; the rooms are read anew for each floor on show.
+        {"Locations.xml", unread, Operations::showHomes, {}, {}},
+        {"Floors.xml", unread, Operations::showHomes, {}, {}},
+        {"Rooms.xml", unread, Operations::showHomes, {moveFirst, query}, {}},
+
+        // The editor reads the rooms and its lists anew; the chart asks for eight colours, the page for one.
+        {"Rooms.xml", unread, open, {moveFirst, find}, settings},
+        {"RoomTypes.xml", unread, open, {moveFirst}, settings},
+        {"FloorTypes.xml", unread, open, {moveFirst}, settings},
+        {"Directions.xml", unread, open, {moveFirst}, settings},
+        {"Colors.xml", unread, open, times(9, {find}), settings},
+    };
+    addHarmless(rows, start);
+    return rows;
+}
+
+FaultTable adviceRows() {
+    constexpr int rooms = 17;   // of the sample household
+    constexpr int sectors = 8;  // of a compass
+    constexpr int drawings = 2; // of a chart: the large one and the one in the report
+    const QStringList settings = {QStringLiteral("settings/Talivane.ini")};
+    const Operation report = Operations::reportRooms;
+    const Operation chart = Operations::chartYear;
+    const Operation move = Operations::adviseMove;
+    const QString noChart =
+        QStringLiteral("Nine Ki Chart: Error Reading Directions.  Could not calculate Nine Ki Chart.");
+    const QString noMove = QStringLiteral(
+        "Directions to Move: Error Reading Directions.  Could not calculate directions to Move.");
+    FaultTable rows = {
+        {"Rooms.xml", unread, report, times(rooms, {moveFirst, find}), settings},
+        {"Colors.xml", unread, report, times(rooms * sectors, {find}), settings},
+
+        // The year is looked up for its start and for its sign.
+        {"KUAYears.xml", unread, chart, times(drawings * 2, {find}), settings},
+        {"Animals.xml", unread, chart, times(drawings, {find}), settings},
+        {"Directions.xml", unread, chart, times(drawings, {moveFirst, noChart}), settings},
+        // Two elements are compared in each sector.
+        {"Elements.xml", unread, chart, times(drawings * sectors * 2, {find}), settings},
+        // Each sector asks for its own colour and for those of two elements, the centre for its own.
+        {"Colors.xml", unread, chart, times(drawings * (sectors * 3 + 1), {find}), settings},
+
+        // Of the eight sectors four are decided before any elements are compared.
+        {"KUAYears.xml", unread, move, times(drawings * 2, {find}), settings},
+        {"Animals.xml", unread, move, times(drawings, {find}), settings},
+        {"Directions.xml", unread, move, times(drawings, {moveFirst, noMove}), settings},
+        {"Elements.xml", unread, move, times(drawings * 4 * 2, {find}), settings},
+        {"Colors.xml", unread, move, times(drawings * 4 * 2, {find}), settings},
+    };
+    // What is in memory, or has no part in it.
+    for (const char* file :
+         {"Profiles.xml", "Locations.xml", "Floors.xml", "PersonalDirections.xml", "Symbols.xml",
+          "TimeOfDay.xml", "Trigrams.xml", "RoomTypes.xml", "FloorTypes.xml"}) {
+        for (const Operation& operation : {report, chart, move}) {
+            rows.push_back({file, {Fault::Missing}, operation, {}, settings});
+        }
+    }
+    return rows;
+}
