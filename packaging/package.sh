@@ -71,6 +71,7 @@ Maintainer: Orvenel <support@talivane.example>
 Installed-Size: $(du -sk "$deb/usr" | cut -f1)
 Depends: $depends
 Recommends: fonts-liberation
+Suggests: fonts-noto-cjk | fonts-wqy-zenhei
 Section: misc
 Priority: optional
 Homepage: https://www.talivane.example/

@@ -2,6 +2,7 @@
 
 #include "core/Failure.h"
 #include "core/ReplaceFile.h"
+#include "core/VersionRecord.h"
 #include "reports/pages/HtmlWriter.h"
 #include "reports/pages/PageDocument.h"
 #include "reports/pages/PagePainter.h"
@@ -31,6 +32,7 @@ void writePdf(const PageDocument& document, QIODevice& device) {
     writer.setPageSize(QPageSize(document.pageSize / twipsPerPoint, QPageSize::Point));
     writer.setPageMargins({});
     writer.setTitle(titleOf(document));
+    writer.setCreator(VersionRecord::title.toString());
     QPainter painter;
     if (!painter.begin(&writer)) {
         throw failure(ErrorNumber::DeviceError);
