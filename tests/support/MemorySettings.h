@@ -10,6 +10,7 @@ public:
     void setText(const QString& section, const QString& name, const QString& text);
     /// Every write as "section|name=text", in order.
     [[nodiscard]] const QList<QString>& writes() const { return writes_; }
+    void forgetWrites() { writes_.clear(); }
     [[nodiscard]] bool isEmpty() const { return entries_.isEmpty(); }
     void refuseWrites(bool refuse) { refuseWrites_ = refuse; }
 
