@@ -13,7 +13,9 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QToolButton>
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace WindowDriver;
@@ -172,6 +174,15 @@ const Operation startAndAddRoom{"start and add a room", [](FaultStage& stage) {
                                     });
                                 }};
 
+const Operation startElsewhere{"start with other decimal separators", [](FaultStage& stage) {
+                                   static const QRegularExpression decimal(u"(\\d)\\.(\\d)"_s);
+                                   QString records = QString::fromUtf8(stage.content());
+                                   ASSERT_TRUE(records.contains(decimal));
+                                   stage.put(records.replace(decimal, u"\\1,\\2"_s).toUtf8());
+                                   stage.strike();
+                                   stage.start();
+                               }};
+
 const Operation startChooseAndEnd{"start, choose a person and end", [](FaultStage& stage) {
                                       stage.strike();
                                       stage.start();
@@ -293,6 +304,17 @@ const Operation moveRoom{"move a room", [](FaultStage& stage) {
                              startAtHomes(stage);
                              stage.strike();
                              dragKitchen(stage);
+                         }};
+
+const Operation setNorth{"set North", [](FaultStage& stage) {
+                             startAtHomes(stage);
+                             whileModal(
+                                 [&] { choose(stage.view(), "mnuLocations", "mnuLocationsDirections"); },
+                                 [&](QWidget& window) {
+                                     press(window, Qt::Key_Right);
+                                     stage.strike();
+                                     click(window, "cmdOK");
+                                 });
                          }};
 
 const Operation saveRooms{"save the report on the rooms", [](FaultStage& stage) {

@@ -15,6 +15,7 @@ extern const Operation start;             ///< start the program
 extern const Operation startAndAddPerson; ///< start, enter a person, save
 extern const Operation startAndAddHome;   ///< start, enter a home of one floor, save
 extern const Operation startAndAddRoom;   ///< start, enter a room, save
+extern const Operation startElsewhere;    ///< start where the other decimal separator is in use
 extern const Operation startChooseAndEnd; ///< start, choose another person, close the window
 
 // The fault comes while the program runs.
@@ -35,6 +36,7 @@ extern const Operation addRoom;      ///< enter a room, save; the fault comes be
 extern const Operation changeRoom;   ///< give the kitchen a long name, save; the fault comes before the save
 extern const Operation removeRoom;   ///< remove the kitchen
 extern const Operation moveRoom;     ///< drag the kitchen
+extern const Operation setNorth;     ///< turn North; the fault comes before OK
 extern const Operation saveRooms;    ///< save the report on the rooms as HTML
 extern const Operation saveRoom;     ///< save the kitchen's report as HTML
 extern const Operation saveChart;    ///< save the Nine Ki chart as HTML

@@ -92,6 +92,25 @@ FaultTable writingRows() {
     rows.push_back({"Floors.xml", locked, end, {save(denied)}, {locations, ::rooms}});
     rows.push_back({"Rooms.xml", locked, end, {save(denied)}, {floors, locations}});
 
+    // North is saved with the home, the directions that follow from it with the rooms, which are read anew
+    // twice behind that.
+    const Operation north = Operations::setNorth;
+    rows.push_back({"Locations.xml", healed, north, {}, {locations, ::rooms, settings}});
+    rows.push_back({"Locations.xml", locked, north, {save(denied)}, {::rooms, settings}});
+    rows.push_back({"Locations.xml", {Fault::Directory}, north, {save(noFile)}, {::rooms, settings}});
+    rows.push_back({"Rooms.xml", locked, north, {save(denied)}, {locations, settings}});
+    rows.push_back(
+        {"Rooms.xml", {Fault::Directory}, north, {save(noFile), moveFirst}, {locations, settings}});
+
+    // Decimal separators of another country are put right at each load: the rooms are loaded by the start and
+    // by the plan. No room is needed for that.
+    const Operation elsewhere = Operations::startElsewhere;
+    const std::vector<Fault> harmless = {Fault::None, Fault::FullDisk};
+    rows.push_back({"Locations.xml", harmless, elsewhere, {}, {locations}});
+    rows.push_back({"Locations.xml", locked, elsewhere, {save(denied)}, {}});
+    rows.push_back({"Rooms.xml", harmless, elsewhere, {}, {::rooms}});
+    rows.push_back({"Rooms.xml", locked, elsewhere, {save(denied), save(denied)}, {}});
+
     // The folder has gone, with all its files.
     const std::vector<Fault> gone = {Fault::NoFolder};
     const QStringList lost = {save(noPath)};
