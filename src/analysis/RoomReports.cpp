@@ -87,9 +87,7 @@ void cLocation::AnalyzeRooms(ReportSurface& vp, std::optional<qint32> vFloorID) 
         vp.StartDoc();
         const qint32 last = rooms.ResultCount - 1;
         for (qint32 index = 0; index <= last; ++index) {
-            if (!rooms.GetResult(index)) {
-                continue;
-            }
+            rooms.GetResult(index);
             analyzeResult(rooms, vp);
             if (index < last) {
                 vp.NewPage();

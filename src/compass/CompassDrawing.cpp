@@ -183,9 +183,7 @@ void CompassDrawing::drawRooms(PlanSurface& surface, Target target) {
     setScale(surface, target);
     cXMLHandler& rooms = currentRooms();
     for (qint32 index = 0; index < rooms.ResultCount; ++index) {
-        if (!rooms.GetResult(index)) {
-            continue;
-        }
+        rooms.GetResult(index);
         if (Conversion::toLong(rooms.GetAttribute(u"FLOORID"_s, true)) == Global::CurrentFloorID) {
             drawRoom(surface, rooms);
         }

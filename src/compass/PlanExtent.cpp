@@ -45,9 +45,7 @@ RoomPlace RoomPlace::ofResult(cXMLHandler& rooms) {
 void PlanExtent::measure(cXMLHandler& rooms) {
     bool first = true;
     for (qint32 index = 0; index < rooms.ResultCount; ++index) {
-        if (!rooms.GetResult(index)) {
-            continue;
-        }
+        rooms.GetResult(index);
         const RoomPlace room = RoomPlace::ofResult(rooms);
         const qint32 right = sum(room.LEFT, room.WIDTH);
         const qint32 bottom = sum(room.TOP, room.LENGTH);

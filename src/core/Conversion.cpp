@@ -168,9 +168,6 @@ QString plainNumber(double value, int significant) {
             text.chop(1);
         }
     }
-    if (text == "-0") {
-        text = "0";
-    }
     QString result = QString::fromLatin1(text);
     result.replace(u'.', Global::services().locale.decimalPoint());
     if (!plain) {

@@ -160,9 +160,6 @@ qint16 clsCalendar::DaysPerMonth(qint16 year, qint16 month) {
         const bool last = month == monthsPerYear;
         const QDate first(year, month, 1);
         const QDate next(last ? year + 1 : year, last ? 1 : month + 1, 1);
-        if (!first.isValid() || !next.isValid()) {
-            throw failure(ErrorNumber::TypeMismatch);
-        }
         result = static_cast<qint16>(first.daysTo(next));
     });
 }

@@ -151,9 +151,7 @@ bool cLocation::DeleteLocation() {
         cXMLHandler& floors = RecordStore::opened(oXMLFloors);
         const qint32 count = floors.Query(floorsOf(LocationID)) ? floors.ResultCount : 0;
         for (qint32 index = 0; index < count; ++index) {
-            if (!floors.GetResult(index)) {
-                continue;
-            }
+            floors.GetResult(index);
             const QString floorId = floors.GetAttribute(FLOOR_KEY, true);
             if (!deleteRooms(
                     floorId, title,
