@@ -43,6 +43,12 @@ TEST_F(FailureTest, failure_everyClassicNumber_hasItsClassicDescription) {
     }
 }
 
+TEST_F(FailureTest, failure_numberThatIsNoClassicOne_keepsItWithTheGeneralDescription) {
+    const Failure found = failure(static_cast<ErrorNumber>(12345));
+    EXPECT_EQ(found.number, 12345);
+    EXPECT_EQ(found.description, u"Application-defined or object-defined error"_s);
+}
+
 TEST_F(FailureTest, routine_bodyThatSucceeds_givesItsResultWithoutAReport) {
     EXPECT_EQ(routine(u"Test.Sum", 1, [](int& result) { result += 2; }), 3);
 }

@@ -146,6 +146,11 @@ TEST_P(RegionalSettingTest, GetRegionalSetting_separators_areThoseOfTheRegion) {
     EXPECT_EQ(Global::GetRegionalSetting(23), locale.groupSeparator());
 }
 
+TEST_P(RegionalSettingTest, GetRegionalSetting_currency_isThatOfTheRegionOrOneNul) {
+    const QString symbol = QLocale(QString::fromLatin1(GetParam())).currencySymbol();
+    EXPECT_EQ(Global::GetRegionalSetting(20), symbol.isEmpty() ? QString(1, QChar(u'\0')) : symbol);
+}
+
 TEST_P(RegionalSettingTest, GetRegionalSetting_unknownItem_isOneNulThatEqualsNoSeparator) {
     for (const qint32 item : {-1, 0, 21, 9999}) {
         const QString none = Global::GetRegionalSetting(item);
@@ -261,6 +266,10 @@ TEST_F(GlobalTest, NormalizeBoolean_valuesThatAreNoText_followTheirMeaning) {
     EXPECT_EQ(Global::NormalizeBoolean(-1.0), QVariant(u"True"_s));
     EXPECT_EQ(Global::NormalizeBoolean(0), QVariant(u"False"_s));
     EXPECT_EQ(Global::NormalizeBoolean(QVariant()), QVariant(u"False"_s));
+    // Texts that are numbers count as those.
+    EXPECT_EQ(Global::NormalizeBoolean(u"-1.0"_s), QVariant(u"True"_s));
+    EXPECT_EQ(Global::NormalizeBoolean(u"0.0"_s), QVariant(u"False"_s));
+    EXPECT_EQ(Global::NormalizeBoolean(u"00"_s), QVariant(u"False"_s));
 }
 
 TEST_F(GlobalTest, NormalizeBoolean_anythingElse_isBooleanFalse) {

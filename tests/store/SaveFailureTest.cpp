@@ -156,3 +156,34 @@ TEST_F(SaveFailureTest, SaveDocument_newFileThatFindsNoRoom_leavesNoEmptyFile) {
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
     EXPECT_FALSE(QFile::exists(world.file(u"new.xml"_s)));
 }
+
+TEST_F(SaveFailureTest, SaveDocument_readOnlyDisk_isPermissionDenied) {
+    const QStringList unshare = privateMounts();
+    if (unshare.isEmpty()) {
+        GTEST_SKIP() << "no mount namespace is permitted here, neither as root nor as a user";
+    }
+    const QString text = uR"(
+        mount -t tmpfs tmpfs "$2" && cp "$3" "$2/records.xml" && mount -o remount,ro "$2" || exit 1
+        "$1" "$2/records.xml" "$4"
+        cat "$2/records.xml" > "$3.after")"_s;
+    const QString disk = world.file(u"disk"_s);
+    ASSERT_TRUE(QDir().mkdir(disk));
+    for (const QString& change : {u"grow"_s, u"shrink"_s}) {
+        EXPECT_EQ(script(text, {disk, path(), change}, unshare), failed("70-Permission denied"));
+        EXPECT_EQ(world.read(fileName + u".after"_s), old);
+    }
+}
+
+TEST_F(SaveFailureTest, SaveDocument_noMoreFilesMayBeOpen_isTooManyFilesWithTheOldFileWhole) {
+    struct rlimit limit = {};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
+    const int next = dup(0); // the lowest number that is free, and so the one that the save would get
+    ASSERT_NE(next, -1);
+    close(next);
+    const struct rlimit starved = {static_cast<rlim_t>(next), limit.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &starved), 0);
+    expectFailure(path(), 67, u"Too many files"_s);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &limit), 0);
+    EXPECT_EQ(world.read(fileName), old);
+    EXPECT_TRUE(store.SaveDocument());
+}

@@ -175,6 +175,14 @@ TEST_F(cXMLHandlerTest, AdvFind_apostrophes_standForQuotes) {
     EXPECT_FALSE(store.AdvFind(QString()));
 }
 
+TEST_F(cXMLHandlerTest, Query_beforeALoad_isReportedAndFindsNothing) {
+    world.prompts.expectError(u"cXMLHandler.Query"_s, 91,
+                              u"Object variable or With block variable not set"_s);
+    EXPECT_FALSE(store.Query(u"//z:row"_s));
+    EXPECT_EQ(store.ResultCount, 0);
+    EXPECT_FALSE(store.GetResult(0));
+}
+
 TEST_F(cXMLHandlerTest, Query_noMatch_isTrueWithNothingToGet) {
     loadThree();
     EXPECT_TRUE(store.Query(u"//z:row[@ID = '9']"_s));

@@ -4,6 +4,10 @@
 #include "ui/LocationPaneTest.h"
 #include "ui/widgets/ElidedLabel.h"
 
+#include <QHelpEvent>
+#include <QMenu>
+#include <QToolTip>
+
 namespace {
 
 /// Two rooms: 1, 120 by 100 at (60, 60), and 2, 200 by 200 at (300, 300).
@@ -227,4 +231,31 @@ TEST_F(FloorPlanMouseTest, decimalComma_isWrittenInTheUsersForm) {
     room(0).setLeft(10.5F);
     QTest::keyClick(&room(0), Qt::Key_Right);
     EXPECT_EQ(stored(u"1"_s, u"LEFT"_s), u"11,5"_s);
+}
+
+TEST_F(FloorPlanMouseTest, toolTip_isTheNameOfARoomTooSmallToShowIt) {
+    const auto tip = [&] {
+        QHelpEvent wanted(QEvent::ToolTip, QPoint(5, 5), room(0).mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&room(0), &wanted);
+        const QString text = QToolTip::isVisible() ? QToolTip::text() : QString();
+        QToolTip::hideText();
+        return text;
+    };
+    EXPECT_EQ(tip(), QString());
+    room(0).resize(room(0).width(), room(0).fontMetrics().height() + 8); // one line of two
+    EXPECT_EQ(tip(), u"Wine Cellar"_s);
+    room(0).resize(room(0).fontMetrics().horizontalAdvance(u"Cell"_s), 200);
+    EXPECT_EQ(tip(), u"Wine Cellar"_s);
+}
+
+TEST_F(FloorPlanMouseTest, secondPressOfTheRightButton_isAPressLikeTheFirst) {
+    // The system calls a quick second press a double click.
+    const QPointF middle = room(1).rect().center();
+    QMouseEvent second(QEvent::MouseButtonDblClick, middle, room(1).mapToGlobal(middle), Qt::RightButton,
+                       Qt::RightButton, Qt::NoModifier);
+    QApplication::sendEvent(&room(1), &second);
+    auto& menu = control<QMenu>(*view_, "mnuLocations");
+    EXPECT_TRUE(menu.isVisible());
+    EXPECT_EQ(selected(), 1);
+    menu.close();
 }

@@ -277,3 +277,15 @@ TEST_F(LocationPaneTest, DeleteFloor_ofTheLastOne_leavesAnEmptyPlan) {
                                u"Invalid property array index"_s);
     click(*view_, "cmdRoom");
 }
+
+TEST_F(LocationPaneTest, OpenLocation_withoutAnId_showsTheFirstHome) {
+    start();
+    run("mnuLocationsNew");
+    EXPECT_EQ(view_->Mode, u"INSERT"_s);
+    Global::CurrentLocation->LocationID = 0;
+    control<LocationPane>(*view_, "vsMainLocation").OpenLocation();
+    EXPECT_EQ(view_->Mode, u"UPDATE"_s);
+    EXPECT_EQ(Global::CurrentLocation->LocationID, 1);
+    EXPECT_EQ(band().trimmed(), homes().constFirst());
+    EXPECT_EQ(setting(u"LastLocation"_s), u"1"_s);
+}

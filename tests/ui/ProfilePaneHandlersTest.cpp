@@ -111,6 +111,17 @@ TEST_F(ProfilePaneHandlersTest, save_numbersBeyondOneToNine_areRefused) {
     EXPECT_EQ(pane_.storedPeople(), before);
 }
 
+TEST_F(ProfilePaneHandlersTest, save_byItsKey_leavesTheFocusInTheListAndNotOnTheButtonThatDeletes) {
+    ProfileWorld::start();
+    pane_.type("txt9Ki", u"4"_s);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(pane_.view.get()));
+    auto& save = pane_.at<QPushButton>("cmdSaveProfile");
+    save.setFocus();
+    QTest::keyClick(&save, Qt::Key_Space);
+    pane_.expectOpenState();
+    EXPECT_TRUE(pane_.list().hasFocus());
+}
+
 TEST_F(ProfilePaneHandlersTest, save_oneAndNine_pass) {
     ProfileWorld::start();
     for (const char* number : {"1", "9"}) {

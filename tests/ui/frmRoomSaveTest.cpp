@@ -138,6 +138,17 @@ TEST_F(frmRoomSaveTest, save_changesThisRoomOnly) {
     EXPECT_TRUE(storedRooms() == expected);
 }
 
+TEST_F(frmRoomSaveTest, saveByItsKey_leavesTheFocusOnCloseAndNotOnTheButtonThatPrints) {
+    EXPECT_TRUE(open(kitchen, [](QWidget& window) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        type(window, "txtDescription", u"Galley"_s);
+        control(window, "cmdOK").setFocus();
+        QTest::keyClick(&control(window, "cmdOK"), Qt::Key_Space);
+        EXPECT_FALSE(enabled(window, "cmdOK"));
+        EXPECT_TRUE(control(window, "cmdCancel").hasFocus());
+    }));
+}
+
 TEST_F(frmRoomSaveTest, save_leavesTheCurrentHomesOwnRoomsAlone) {
     open(kitchen, [](QWidget& window) {
         type(window, "txtDescription", u"Galley"_s);

@@ -187,6 +187,16 @@ TEST_F(frmViewTest, profileButton_withoutAPerson_selectsTheFirstOfTheList) {
     EXPECT_EQ(world_.settings.text(startUp_, QStringLiteral("LastProfile")), QStringLiteral("1"));
 }
 
+TEST_F(frmViewTest, profileButton_withoutAPersonInTheStore_entersTheNewStateAgain) {
+    startEmpty();
+    pressToolbar("LOCATION");
+    view_->Mode = QStringLiteral("UPDATE");
+    pressToolbar("PROFILE");
+    EXPECT_EQ(view_->Mode, QStringLiteral("INSERT"));
+    EXPECT_TRUE(pressed("PROFILE"));
+    expectProfilePane();
+}
+
 TEST_F(frmViewTest, buttons_withoutSharedObjects_makeThemAnew) {
     Global::Main();
     Global::CurrentLocation.reset();

@@ -116,3 +116,15 @@ TEST_F(frmCalendarKeysTest, days_areReadAloudWithMonthAndYear) {
         EXPECT_EQ(control(window, "days").accessibleName(), u"3 March 2026"_s);
     });
 }
+
+TEST_F(frmCalendarKeysTest, windowThatNoCalendarOpened_letsKeysAndClicksPass) {
+    frmCalendar window;
+    window.show();
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) {
+        press(window, key);
+    }
+    QTest::mouseClick(&day(window, 3), Qt::LeftButton);
+    EXPECT_TRUE(window.isVisible());
+    press(window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}

@@ -145,3 +145,16 @@ TEST_F(frmElementsTest, personNeverCalculated_opensWithoutASelectionAndTheListWo
         EXPECT_EQ(title(window), QStringLiteral("Soil"));
     });
 }
+
+TEST_F(frmElementsTest, withoutAPerson_reportsOnceAndWaitsForAChoice) {
+    Global::CurrentProfile.reset();
+    world_.prompts.expectError(QStringLiteral("frmElements.Form_Load"), 91,
+                               QStringLiteral("Object variable or With block variable not set"));
+    showElements([&](QWidget& window) {
+        EXPECT_TRUE(world_.prompts.isSatisfied());
+        EXPECT_EQ(control<QComboBox>(window, "cboElements").count(), 5);
+        EXPECT_EQ(control<QComboBox>(window, "cboElements").currentIndex(), -1);
+        pick(window, "cboElements", Qt::Key_M);
+        EXPECT_EQ(title(window), QStringLiteral("Metal"));
+    });
+}

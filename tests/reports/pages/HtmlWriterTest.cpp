@@ -2,7 +2,10 @@
 
 #include "reports/pages/PageSurfaceFixture.h"
 
+#include <QFontDatabase>
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace {
 
@@ -162,6 +165,64 @@ TEST_F(HtmlWriterTest, chart_isOneFigureWithItsLettersInOrder) {
     EXPECT_EQ(named("circle").size(), 1U);
     EXPECT_TRUE(named("g").at(0).attribute("transform").contains(QStringLiteral("rotate(-90)")));
     EXPECT_EQ(textsOf("p"), QStringList{QStringLiteral("below")});
+}
+
+TEST_F(HtmlWriterTest, turnedText_keepsTheLookOfItsLetters) {
+    surface.StartDoc();
+    surface.TextBox(QStringLiteral("plain"), 3500, 3500, 5000, 0);
+    surface.FontBold(true);
+    surface.TextBox(QStringLiteral("bold"), 3500, 3500, 5000, 0);
+    surface.FontItalic(true);
+    surface.FontUnderline(true);
+    surface.TextBox(QStringLiteral("all"), 3500, 3500, 5000, 0);
+    surface.EndDoc();
+    const std::vector<Element> texts = named("text");
+    ASSERT_EQ(texts.size(), 3U);
+    const auto look = [](const Element& text) {
+        return QStringList{text.attribute("font-weight"), text.attribute("font-style"),
+                           text.attribute("text-decoration")};
+    };
+    EXPECT_EQ(look(texts[0]), (QStringList{QString(), QString(), QString()}));
+    EXPECT_EQ(look(texts[1]), (QStringList{QStringLiteral("bold"), QString(), QString()}));
+    EXPECT_EQ(look(texts[2]),
+              (QStringList{QStringLiteral("bold"), QStringLiteral("italic"), QStringLiteral("underline")}));
+}
+
+TEST_F(HtmlWriterTest, outline_isDashedInUnitsOfThePage) {
+    surface.StartDoc();
+    surface.PenWidth(20);
+    surface.DrawRectangle(1000, 3000, 4000, 2000);
+    surface.PenStyle(1);
+    surface.DrawRectangle(1000, 2000, 4000, 3000);
+    surface.PenStyle(5);
+    surface.DrawRectangle(1000, 2000, 4000, 3000);
+    surface.EndDoc();
+    const std::vector<Element> shapes = named("rect");
+    ASSERT_EQ(shapes.size(), 3U);
+    for (const Element& shape : shapes) { // the corners in any order
+        EXPECT_EQ(shape.attribute("x"), QStringLiteral("1000"));
+        EXPECT_EQ(shape.attribute("y"), QStringLiteral("2000"));
+        EXPECT_EQ(shape.attribute("width"), QStringLiteral("3000"));
+        EXPECT_EQ(shape.attribute("height"), QStringLiteral("1000"));
+        EXPECT_EQ(shape.attribute("stroke-width"), QStringLiteral("20"));
+    }
+    EXPECT_EQ(shapes[0].attribute("stroke-dasharray"), QString());
+    EXPECT_EQ(shapes[1].attribute("stroke-dasharray"), QStringLiteral("80 40")); // 4 and 2 widths of the pen
+    EXPECT_EQ(shapes[2].attribute("stroke"), QStringLiteral("none"));
+}
+
+TEST_F(HtmlWriterTest, installedFace_isNamedBeforeTheUsualOnes) {
+    const QStringList faces = QFontDatabase::families();
+    const auto found = std::ranges::find_if(faces, [](const QString& face) {
+        return face != QStringLiteral("Arial") && QFontDatabase::hasFamily(face) && !face.contains(u'\'');
+    });
+    ASSERT_NE(found, faces.end());
+    surface.StartDoc();
+    surface.FontName(*found);
+    surface.Write(QStringLiteral("in a face of its own"));
+    surface.EndDoc();
+    EXPECT_EQ(named("p").at(0).attribute("style"),
+              QStringLiteral("font-size:11pt;color:#000000;font-family:'%1',Arial,sans-serif").arg(*found));
 }
 
 TEST_F(HtmlWriterTest, wedge_isTheOneThatIsPainted) {

@@ -251,3 +251,48 @@ TEST_F(PreviewWidgetTest, resizing_keepsTheWholePageInSight) {
         EXPECT_EQ(bar().maximum(), 0);
     }
 }
+
+TEST_F(PreviewWidgetTest, thumbnails_theChosenPageIsMarkedAndEachHasItsNumberBelow) {
+    for (const QColor& ground : {QColor(240, 240, 240), QColor(40, 40, 40)}) {
+        preview_->setPalette(QPalette(ground));
+        writePages(4);
+        surface_.ZoomMode(2);
+        surface_.PreviewPage(3);
+        preview_->clearFocus();
+        const QColor mark = preview_->palette().color(QPalette::Highlight);
+        const QColor desk = preview_->palette().color(QPalette::Mid);
+        const QColor ink = desk.lightnessF() < 0.5F ? Qt::white : Qt::black;
+        const QImage image = preview_->viewport()->grab().toImage();
+        for (int page = 0; page < 4; ++page) {
+            const QRect area = preview_->pageArea(page);
+            const QColor beside = image.pixelColor(area.left() - 2, area.center().y());
+            EXPECT_EQ(beside.rgb() == mark.rgb(), page == 2) << page;
+            bool numbered = false;
+            for (int y = area.bottom() + 4; y < area.bottom() + 8 + preview_->fontMetrics().height(); ++y) {
+                for (int x = area.left(); x < area.right() && y < image.height(); ++x) {
+                    numbered = numbered || image.pixelColor(x, y).rgb() == ink.rgb();
+                }
+            }
+            EXPECT_TRUE(numbered) << page;
+        }
+    }
+}
+
+TEST_F(PreviewWidgetTest, thumbnails_largerLettersMakeRoomForTheNumbers) {
+    writePages(30);
+    surface_.ZoomMode(2);
+    const int columns = preview_->plan().columns;
+    const int between = preview_->pageArea(columns).top() - preview_->pageArea(0).bottom();
+    QFont large = preview_->font();
+    large.setPointSizeF(3 * large.pointSizeF());
+    preview_->setFont(large);
+    EXPECT_GT(preview_->pageArea(preview_->plan().columns).top() - preview_->pageArea(0).bottom(), between);
+}
+
+TEST_F(PreviewWidgetTest, wheelWithCtrl_overAnEmptyDesk_keepsTheZoomAndItsMode) {
+    const auto mode = surface_.ZoomMode();
+    const double zoom = surface_.Zoom();
+    turnWheel(1, Qt::ControlModifier);
+    EXPECT_EQ(surface_.ZoomMode(), mode);
+    EXPECT_EQ(surface_.Zoom(), zoom);
+}

@@ -1,5 +1,6 @@
 #include "ui/platform/QSettingsStore.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -132,4 +133,30 @@ TEST_F(QSettingsStoreTest, damagedFile_readsAsNothing) {
     damaged.write(QByteArray("\0\xFF[[[===\n\n]=]", 13));
     damaged.close();
     EXPECT_FALSE(QSettingsStore(file_).value(section_, QStringLiteral("LastProfile")));
+}
+
+TEST_F(QSettingsStoreTest, valuesInAForeignForm_areReadWithTheirType) {
+    // As the toolkit itself writes bytes and numbers, say in a file that another program has edited.
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(file_).path()));
+    QSettings written(file_, QSettings::IniFormat);
+    written.setValue(QStringLiteral("SOFTWARE/Orvenel/Talivane/StartUp/Bytes"), QByteArray("\x00\xFF", 2));
+    written.sync();
+    QFile file(file_);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    QByteArray text = file.readAll();
+    const qsizetype at = text.indexOf("Orvenel\\Talivane\\StartUp\\Bytes");
+    ASSERT_GE(at, 0);
+    text.insert(at, "Orvenel\\Talivane\\StartUp\\Number=@Variant(\\0\\0\\0\\x2\\0\\0\\x1\\x2)\n");
+    file.resize(0);
+    file.write(text);
+    file.close();
+    const QSettingsStore store(file_);
+    const auto bytes = store.value(section_, QStringLiteral("Bytes"));
+    ASSERT_TRUE(bytes);
+    EXPECT_EQ(bytes->type, 3);
+    EXPECT_EQ(bytes->data, QByteArray("\x00\xFF", 2));
+    const auto number = store.value(section_, QStringLiteral("Number"));
+    ASSERT_TRUE(number);
+    EXPECT_EQ(number->type, 4);
+    EXPECT_EQ(number->data, QByteArray("\x02\x01\x00\x00", 4)); // 258, the lowest byte first
 }

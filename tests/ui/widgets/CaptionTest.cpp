@@ -28,6 +28,18 @@ TEST(CaptionLabel, caption_isShownWithSingleAmpersandsAndWithoutEmptyLinesAtItsE
     EXPECT_TRUE(label.wordWrap());
 }
 
+TEST(CaptionLabel, largerLetters_takeMoreRoom) {
+    CaptionLabel label(QStringLiteral("lblSummary"));
+    label.setCaption(QStringLiteral("A sentence of some length, which is broken into lines. ").repeated(4));
+    const QSize hint = label.sizeHint();
+    const int height = label.heightForWidth(300);
+    QFont large = label.font();
+    large.setPointSizeF(2 * large.pointSizeF());
+    label.setFont(large);
+    EXPECT_GT(label.sizeHint().width(), 1.5 * hint.width());
+    EXPECT_GT(label.heightForWidth(300), 2 * height);
+}
+
 TEST(AccentTabBar, selectedTab_isUnderlinedInTheAccentColor) {
     AccentTabBar bar;
     bar.addTab(QStringLiteral("One"));

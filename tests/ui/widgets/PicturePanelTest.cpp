@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 namespace {
@@ -85,4 +86,16 @@ TEST(PicturePanel, valueStandsOut) {
     const QImage plain = panel.grab().toImage();
     panel.setCaption(QString(), QStringLiteral("North"));
     EXPECT_NE(panel.grab().toImage(), plain);
+}
+
+TEST(PicturePanel, largerLetters_takeMoreRoomInTheWindow) {
+    QWidget window;
+    auto* rows = new QVBoxLayout(&window);
+    auto* panel = new PicturePanel(QStringLiteral("panel"), PicturePanel::Place::Under);
+    rows->addWidget(panel);
+    const int before = rows->sizeHint().height();
+    QFont large = panel->font();
+    large.setPointSizeF(3 * large.pointSizeF());
+    panel->setFont(large);
+    EXPECT_GT(rows->sizeHint().height(), before);
 }

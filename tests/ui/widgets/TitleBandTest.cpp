@@ -104,3 +104,25 @@ TEST(TitleBand, rightToLeft_titleBeginsAtTheRightAndTheWidgetStandsLeft) {
     EXPECT_GT(leftmost, 300);
     EXPECT_LT(rightmost, 400 - 24);
 }
+
+TEST(TitleBand, font_ofAWindowThatCountsInPixels_isLargerToo) {
+    QWidget window;
+    QFont font = window.font();
+    font.setPixelSize(20);
+    window.setFont(font);
+    const TitleBand band(&window);
+    EXPECT_EQ(band.font().pixelSize(), 28);
+}
+
+TEST(TitleBand, anotherTheme_recoloursTheBandAndWhatStandsInIt) {
+    TitleBand band;
+    auto* label = new QLabel(QStringLiteral("LI"));
+    band.addWidget(label);
+    for (const QColor& theme : {QColor(240, 240, 240), QColor(40, 40, 40)}) {
+        band.setPalette(QPalette(theme));
+        EXPECT_EQ(band.ground(), ColorContrast::paperGrey(QPalette(theme)));
+        EXPECT_EQ(label->palette().color(QPalette::Window), band.ground());
+        EXPECT_EQ(label->palette().color(QPalette::WindowText), band.textColor());
+        EXPECT_GE(ColorContrast::ratio(band.textColor(), band.ground()), 4.5);
+    }
+}
