@@ -23,6 +23,18 @@ std::vector<Ratio>& ratios() {
     return all;
 }
 
+std::vector<QuotientRatio>& quotients() {
+    static std::vector<QuotientRatio> all;
+    return all;
+}
+
+/// The line about a ratio.
+std::string told(double value, double limit, const char* what) {
+    std::array<char, 48> figures{};
+    std::snprintf(figures.data(), figures.size(), "ratio %.2f (at most %.2f)", value, limit);
+    return std::string(figures.data()) + (value > limit ? "  EXCEEDED  " : "  ") + what;
+}
+
 /// Prints each benchmark's median as the console does, and keeps every repetition's time for the ratios.
 class CollectingReporter final : public benchmark::ConsoleReporter {
 public:
@@ -67,10 +79,13 @@ std::string measured(const Ratio& pair) {
     benchmark::SetBenchmarkFilter(std::string("^(") + pair.measured + '|' + pair.baseline + ")(/|$)");
     CollectingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    const double value = reporter.ratio(pair);
-    std::array<char, 32> figures{};
-    std::snprintf(figures.data(), figures.size(), "ratio %.2f (at most %.2f)", value, pair.limit);
-    return std::string(figures.data()) + (value > pair.limit ? "  EXCEEDED  " : "  ") + pair.what;
+    return told(reporter.ratio(pair), pair.limit, pair.what);
+}
+
+std::string measured(const QuotientRatio& pair) {
+    const Quotient figures = pair.measure();
+    std::printf("%-60s %.0f to %.0f %s\n", pair.what, figures.measured, figures.baseline, figures.unit);
+    return told(figures.baseline > 0 ? figures.measured / figures.baseline : 0, pair.limit, pair.what);
 }
 
 /// Fixes how the C library gives memory back. Left to itself it changes its mind with what ran before, and
@@ -88,6 +103,11 @@ void keepFreedMemory() {
 
 bool addRatio(const Ratio& ratio) {
     ratios().push_back(ratio);
+    return true;
+}
+
+bool addQuotient(const QuotientRatio& ratio) {
+    quotients().push_back(ratio);
     return true;
 }
 
@@ -112,6 +132,11 @@ int main(int argc, char** argv) {
     std::vector<std::string> lines;
     for (const Ratio& pair : ratios()) {
         if (std::regex_search(pair.measured, wanted) || std::regex_search(pair.baseline, wanted)) {
+            lines.push_back(measured(pair));
+        }
+    }
+    if (std::regex_search("memory", wanted)) {
+        for (const QuotientRatio& pair : quotients()) {
             lines.push_back(measured(pair));
         }
     }

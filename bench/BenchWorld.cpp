@@ -3,8 +3,11 @@
 #include "core/Global.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLocale>
+#include <QProcess>
+#include <benchmark/benchmark.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -86,4 +89,27 @@ BenchWorld::BenchWorld(int rooms) {
 
 BenchWorld::~BenchWorld() {
     Global::use({});
+}
+
+void BenchWorld::rememberPersonAndHome() const {
+    QFile file(this->file(QStringLiteral("settings.ini")));
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write("[SOFTWARE]\nOrvenel\\Talivane\\StartUp\\LastLocation=1\n"
+                   "Orvenel\\Talivane\\StartUp\\LastProfile=1\n") < 0) {
+        stop(QStringLiteral("cannot write the settings"));
+    }
+}
+
+void wholeLife(benchmark::State& state, const QString& program, const QStringList& arguments) {
+    while (state.KeepRunning()) {
+        QElapsedTimer timer;
+        timer.start();
+        QProcess process;
+        process.start(program, arguments);
+        const bool finished = process.waitForFinished() && process.exitCode() == 0;
+        state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+        if (!finished) {
+            state.SkipWithError("the program did not reach its first picture");
+        }
+    }
 }

@@ -3,7 +3,12 @@
 #include "core/Prompts.h"
 
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
+
+namespace benchmark {
+class State;
+}
 
 /// The surroundings of a benchmark: a data folder of its own with the reference tables, the sample person,
 /// and a home of as many rooms as asked for. A box of any kind ends the run, since it would measure a
@@ -16,6 +21,8 @@ public:
     ~BenchWorld();
 
     [[nodiscard]] QString folder() const { return folder_.path(); }
+    /// Lets a start on this folder open the sample person and the home.
+    void rememberPersonAndHome() const;
     [[nodiscard]] QString file(const QString& name) const { return folder_.filePath(name); }
 
 private:
@@ -34,3 +41,6 @@ private:
 
 /// A `Rooms.xml` of so many rooms in home 1, cycling through all types, floorings, directions and features.
 [[nodiscard]] QByteArray roomsFile(int rooms);
+
+/// Measures a program's whole life, from its start to its end; fails where it ends badly.
+void wholeLife(benchmark::State& state, const QString& program, const QStringList& arguments);

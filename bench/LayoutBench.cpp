@@ -1,77 +1,64 @@
+#include "BenchWorld.h"
 #include "Ratio.h"
+#include "SampleReport.h"
 #include "reports/pages/DocumentFiles.h"
 #include "reports/pages/PageSurface.h"
-#include "reports/surface/ReportRoutines.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QFile>
 #include <QPdfWriter>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <benchmark/benchmark.h>
 
-#include <array>
-#include <numbers>
+#include <cstdlib>
 
 namespace {
 
-constexpr int roomCount = 100;
-constexpr int paragraphsOfRoom = 7;
-
-QString paragraph(int index) {
-    static const std::array<QString, 4> sentences{
-        QStringLiteral("This room lies in the South-East area of your home, whose element is the Tree. "),
-        QStringLiteral(
-            "Its energy is strong in the morning, so keep the windows free and the colors light. "),
-        QStringLiteral(
-            "If the floor is of stone, lay a carpet of a warm color near the place where you sit. "),
-        QStringLiteral(
-            "Tall plants, curtains with vertical stripes and a fountain lift the energy further. ")};
-    QString text;
-    for (int sentence = 0; sentence < 5; ++sentence) {
-        text += sentences[static_cast<std::size_t>(index + sentence) % sentences.size()];
-    }
-    return text;
-}
-
-void drawWheel(ReportSurface& surface) {
-    constexpr double center = 3500;
-    for (const auto& [letter, x, y] :
-         {std::tuple{u'S', -50, -1900}, {u'N', -50, 1750}, {u'E', -1900, -50}, {u'W', 1750, -50}}) {
-        surface.CurrentY(center + y);
-        surface.CurrentX(center + x);
-        surface.Write(QString(QChar(letter)));
-    }
-    for (int sector = 0; sector < 8; ++sector) {
-        const double from = sector * std::numbers::pi / 4;
-        surface.BrushColor(0xFFFFFF - sector * 0x101010);
-        surface.DrawCircle(center, center, 1440, from, from + std::numbers::pi / 4);
-    }
-}
-
-/// A report like that on a home: each room begins a page with a wheel and a summary beside it.
-void writeReport(ReportSurface& surface) {
-    modRooms::InitReport(surface);
-    surface.StartDoc();
-    for (int room = 0; room < roomCount; ++room) {
-        modRooms::SetReportHeader(surface, QStringLiteral("Room %1").arg(room), 0);
-        drawWheel(surface);
-        surface.CurrentY(2500);
-        modRooms::PrintBesideChart(surface, paragraph(room), 0);
-        surface.CurrentY(5800);
-        for (int index = 1; index < paragraphsOfRoom; ++index) {
-            surface.Write(paragraph(room + index));
-        }
-        if (room + 1 < roomCount) {
-            surface.NewPage();
+/// The same paragraphs in the same font and width, without charts and headers. The document gets its page
+/// size and keeps no undo steps: otherwise it would be laid out twice and stand as a slow opponent.
+void fill(QTextDocument& document) {
+    document.setUndoRedoEnabled(false);
+    document.setPageSize(PageSurface::systemPageSize() / 20);
+    document.setDocumentMargin(72);
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPointSize(11);
+    document.setDefaultFont(font);
+    QTextCursor cursor(&document);
+    for (int room = 0; room < SampleReport::rooms; ++room) {
+        for (int index = 0; index < SampleReport::paragraphsOfRoom; ++index) {
+            cursor.insertText(SampleReport::paragraph(room + index));
+            cursor.insertBlock();
         }
     }
-    surface.EndDoc();
 }
+
+void BM_PagesLaidOut(benchmark::State& state) {
+    for ([[maybe_unused]] const auto round : state) {
+        PageSurface surface;
+        SampleReport::write(surface);
+        state.counters["pages"] = surface.PageCount();
+    }
+}
+BENCHMARK(BM_PagesLaidOut)->Unit(benchmark::kMillisecond);
+
+void BM_TextDocumentLaidOut(benchmark::State& state) {
+    for ([[maybe_unused]] const auto round : state) {
+        QTextDocument document;
+        fill(document);
+        benchmark::DoNotOptimize(document.documentLayout()->documentSize());
+    }
+}
+BENCHMARK(BM_TextDocumentLaidOut)->Unit(benchmark::kMillisecond);
 
 void BM_PagesToPdf(benchmark::State& state) {
     for ([[maybe_unused]] const auto round : state) {
         PageSurface surface;
-        writeReport(surface);
+        SampleReport::write(surface);
         QBuffer file;
         file.open(QIODevice::WriteOnly);
         writePdf(surface.document(), file);
@@ -80,25 +67,11 @@ void BM_PagesToPdf(benchmark::State& state) {
 }
 BENCHMARK(BM_PagesToPdf)->Unit(benchmark::kMillisecond);
 
-/// The same paragraphs in the same font and width, without charts and headers. The document gets its page
-/// size and keeps no undo steps: otherwise it would be laid out twice and stand as a slow opponent.
 void BM_TextDocumentToPdf(benchmark::State& state) {
     const QSizeF page = PageSurface::systemPageSize() / 20;
     for ([[maybe_unused]] const auto round : state) {
         QTextDocument document;
-        document.setUndoRedoEnabled(false);
-        document.setPageSize(page);
-        document.setDocumentMargin(72);
-        QFont font(QStringLiteral("Liberation Sans"));
-        font.setPointSize(11);
-        document.setDefaultFont(font);
-        QTextCursor cursor(&document);
-        for (int room = 0; room < roomCount; ++room) {
-            for (int index = 0; index < paragraphsOfRoom; ++index) {
-                cursor.insertText(paragraph(room + index));
-                cursor.insertBlock();
-            }
-        }
+        fill(document);
         QBuffer file;
         file.open(QIODevice::WriteOnly);
         QPdfWriter writer(&file);
@@ -109,9 +82,68 @@ void BM_TextDocumentToPdf(benchmark::State& state) {
 }
 BENCHMARK(BM_TextDocumentToPdf)->Unit(benchmark::kMillisecond);
 
+void BM_PagesToHtml(benchmark::State& state) {
+    const QTemporaryDir folder;
+    PageSurface surface;
+    SampleReport::write(surface);
+    for ([[maybe_unused]] const auto round : state) {
+        writeHtml(surface.document(), folder.filePath(QStringLiteral("report.html")));
+    }
+}
+BENCHMARK(BM_PagesToHtml)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void BM_TextDocumentToHtml(benchmark::State& state) {
+    const QTemporaryDir folder;
+    QTextDocument document;
+    fill(document);
+    for ([[maybe_unused]] const auto round : state) {
+        QFile file(folder.filePath(QStringLiteral("report.html")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(document.toHtml().toUtf8()) < 0) {
+            std::abort();
+        }
+    }
+}
+BENCHMARK(BM_TextDocumentToHtml)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void BM_ProgramToPdf(benchmark::State& state) {
+    const QTemporaryDir folder;
+    wholeLife(state, QStringLiteral(TALIVANE_REPORT_TO_PDF), {folder.filePath(QStringLiteral("report.pdf"))});
+}
+BENCHMARK(BM_ProgramToPdf)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// A browser that prints the report's HTML without a window; skipped where there is none.
+void BM_BrowserToPdf(benchmark::State& state) {
+    const QString browser = QStandardPaths::findExecutable(QStringLiteral("chromium"));
+    if (browser.isEmpty()) {
+        state.SkipWithError("no chromium here");
+        return;
+    }
+    const QTemporaryDir folder;
+    const QString page = folder.filePath(QStringLiteral("report.html"));
+    PageSurface surface;
+    SampleReport::write(surface);
+    writeHtml(surface.document(), page);
+    wholeLife(state, browser,
+              {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"), QStringLiteral("--disable-gpu"),
+               QStringLiteral("--no-first-run"), QStringLiteral("--disable-background-networking"),
+               QStringLiteral("--disable-component-update"), QStringLiteral("--disable-sync"),
+               QStringLiteral("--user-data-dir=") + folder.filePath(QStringLiteral("profile")),
+               QStringLiteral("--print-to-pdf=") + folder.filePath(QStringLiteral("report.pdf")),
+               QStringLiteral("file://") + page});
+}
+BENCHMARK(BM_BrowserToPdf)->UseManualTime()->Unit(benchmark::kMillisecond);
+
 [[maybe_unused]] const bool added =
-    addRatio({"lay out and paint a report with charts to PDF: pages to QTextDocument "
-              "with the paragraphs alone",
-              "BM_PagesToPdf", "BM_TextDocumentToPdf", 1.0});
+    addRatio({"lay out a report with charts: pages to QTextDocument with the paragraphs alone",
+              "BM_PagesLaidOut", "BM_TextDocumentLaidOut", 1.0}) &&
+    addRatio(
+        {"lay out and paint a report with charts to PDF: pages to QTextDocument with the paragraphs alone",
+         "BM_PagesToPdf", "BM_TextDocumentToPdf", 1.0}) &&
+    addRatio({"write a laid-out report with charts as an HTML file: pages to QTextDocument with the "
+              "paragraphs alone",
+              "BM_PagesToHtml", "BM_TextDocumentToHtml", 1.0}) &&
+    addRatio({"a report with charts from nothing to a PDF file: a program of ours to a browser that prints "
+              "its HTML",
+              "BM_ProgramToPdf", "BM_BrowserToPdf", 1.0});
 
 } // namespace

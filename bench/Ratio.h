@@ -12,3 +12,20 @@ struct Ratio {
 /// Adds a ratio to those that are printed at the end of the run. The result is only there so that a
 /// namespace-scope constant can make the call.
 bool addRatio(const Ratio& ratio);
+
+/// Two figures that are not times, and their unit.
+struct Quotient {
+    double measured;
+    double baseline;
+    const char* unit;
+};
+
+/// A ratio whose two figures are measured by a function of its own.
+struct QuotientRatio {
+    const char* what;
+    Quotient (*measure)();
+    double limit;
+};
+
+/// The same as `addRatio` for figures that are not times.
+bool addQuotient(const QuotientRatio& ratio);

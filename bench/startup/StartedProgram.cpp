@@ -8,14 +8,33 @@
 #include "ui/platform/SystemClock.h"
 #include "ui/platform/SystemPrinter.h"
 
+#include <QAction>
 #include <QApplication>
 
-/// The program's own start on the data folder of the first argument, with the settings beside it.
+namespace {
+
+/// Opens the report on the home, and tells the memory that the program holds with it.
+void openReport(frmView& mainWindow) {
+    QTimer::singleShot(0, [] {
+        const AfterFirstPaint* telling =
+            new AfterFirstPaint(*QApplication::activeModalWidget(), tellMemoryAndEnd);
+        Q_UNUSED(telling);
+        QApplication::activeModalWidget()->update();
+    });
+    mainWindow.findChild<QAction*>(QStringLiteral("mnuAdviceRooms"))->trigger();
+}
+
+} // namespace
+
+/// The program's own start on the data folder of the first argument, with the settings beside it. With
+/// "memory" as second argument it tells what it holds then, with "report" what it holds with the report on
+/// the home opened.
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    if (argc != 2) {
+    if (argc < 2) {
         return 2;
     }
+    const QByteArray mode(argc > 2 ? argv[2] : "");
     const QString folder = QString::fromLocal8Bit(argv[1]);
     DialogPrompts prompts;
     QSettingsStore settings(folder + QStringLiteral("/settings.ini"));
@@ -32,7 +51,14 @@ int main(int argc, char** argv) {
     services.browser = &browser;
     services.applicationPath = folder;
     Global::use(services);
-    const EndAfterFirstPaint ending(mainWindow);
+    const AfterFirstPaint ending(mainWindow, [&] {
+        if (mode == "report") {
+            openReport(mainWindow);
+        } else if (mode == "memory") {
+            tellMemoryAndEnd();
+        }
+        endHere();
+    });
     Global::Main();
     return QApplication::exec();
 }

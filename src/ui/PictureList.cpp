@@ -4,13 +4,16 @@
 #include "ui/widgets/SvgIcon.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
 constexpr qint32 elementNotFound = 35601;
 
+/// The file of a key; nothing for what can be no key.
 QString fileName(QString key) {
-    return key.replace(u' ', u'_') + QStringLiteral(".svg");
+    const bool possible = !key.contains(u'_') && !key.contains(u'/');
+    return possible ? key.replace(u' ', u'_') + QStringLiteral(".svg") : QString();
 }
 
 } // namespace
@@ -30,8 +33,9 @@ QStringList PictureList::keys() const {
 }
 
 QIcon PictureList::picture(const QString& key) const {
-    if (!keys().contains(key)) {
+    const QString file = fileName(key);
+    if (!QFileInfo(folder_ + u'/' + file).isFile()) {
         throw Failure{elementNotFound, QStringLiteral("Element not found")};
     }
-    return svgIcon(folder_ + u'/' + fileName(key));
+    return svgIcon(folder_ + u'/' + file);
 }

@@ -1,6 +1,6 @@
 #include "reports/pages/HtmlText.h"
 
-#include <QList>
+#include <QChar>
 
 namespace {
 
@@ -39,26 +39,48 @@ void appendCharacter(QString& html, char32_t character) {
     }
 }
 
+/// Whether a unit of UTF-16 stands in HTML as it is.
+bool isPlain(char16_t unit) {
+    if (unit < 0x7F) {
+        return unit == u'\t' ||
+               (unit >= 0x20 && unit != u'&' && unit != u'<' && unit != u'>' && unit != u'"');
+    }
+    return !QChar::isSurrogate(unit) && !isLineEnd(unit) && !isForbidden(unit);
+}
+
+/// Appends runs of plain text whole, and everything else by itself.
+void append(QString& html, QStringView text, bool breakLines) {
+    qsizetype plain = 0;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (isPlain(text[at].unicode())) {
+            continue;
+        }
+        html += text.sliced(plain, at - plain);
+        char32_t character = text[at].unicode();
+        if (breakLines && isLineEnd(character)) {
+            if (character != U'\n' || at == 0 || text[at - 1] != u'\r') { // the two together are one line end
+                html += QLatin1String("<br/>");
+            }
+        } else {
+            if (text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
+                character = QChar::surrogateToUcs4(text[at], text[at + 1]);
+                ++at;
+            }
+            appendCharacter(html, character); // which replaces a surrogate without its other half
+        }
+        plain = at + 1;
+    }
+    html += text.sliced(plain);
+}
+
 } // namespace
 
 void appendEscaped(QString& html, QStringView text) {
-    const QList<uint> characters = text.toUcs4(); // unpaired surrogates are replaced on this road
-    for (const uint character : characters) {
-        appendCharacter(html, character);
-    }
+    append(html, text, false);
 }
 
 void appendLines(QString& html, QStringView text) {
-    uint previous = 0;
-    const QList<uint> characters = text.toUcs4();
-    for (const uint character : characters) {
-        if (!isLineEnd(character)) {
-            appendCharacter(html, character);
-        } else if (character != U'\n' || previous != U'\r') { // the two together are one line end
-            html += QLatin1String("<br/>");
-        }
-        previous = character;
-    }
+    append(html, text, true);
 }
 
 QString htmlNumber(double value) {

@@ -49,8 +49,11 @@ QSize ElidedLabel::sizeHint() const {
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-    return {2 * margin_ + endRoom_ + fontMetrics().horizontalAdvance(QStringLiteral("\u2026")),
-            sizeHint().height()};
+    // A layout asks often, and each answer would shape the dots anew.
+    if (dotsWidth_ == 0) {
+        dotsWidth_ = fontMetrics().horizontalAdvance(QStringLiteral("\u2026"));
+    }
+    return {2 * margin_ + endRoom_ + dotsWidth_, sizeHint().height()};
 }
 
 QColor ElidedLabel::textColor() const {
@@ -66,6 +69,13 @@ void ElidedLabel::paintEvent(QPaintEvent* event) {
     painter.drawText(textRect(),
                      static_cast<int>(start | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
                      shownText());
+}
+
+void ElidedLabel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        dotsWidth_ = 0;
+    }
+    QFrame::changeEvent(event);
 }
 
 bool ElidedLabel::event(QEvent* event) {

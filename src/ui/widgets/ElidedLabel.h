@@ -28,6 +28,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
     /// The colour of the text.
@@ -36,6 +37,8 @@ protected:
 private:
     [[nodiscard]] QRect textRect() const;
 
+    /// How wide the dots are that stand for the rest of a text; 0 where they were not measured yet.
+    mutable int dotsWidth_ = 0;
     QString text_;
     int margin_ = 8;
     int endRoom_ = 0;

@@ -115,7 +115,8 @@ void PicturePanel::paintCaption(QPainter& painter) const {
     QTextLayout::FormatRange bold;
     bold.start = static_cast<int>(leadIn.size());
     bold.length = static_cast<int>(value.size());
-    bold.format.setFontWeight(QFont::Bold);
+    // A band's letters are heavy already: one face less to load.
+    bold.format.setFontWeight(font().weight() < QFont::DemiBold ? QFont::Bold : font().weight());
     layout.setFormats({bold});
 
     const QRect room = captionRect();

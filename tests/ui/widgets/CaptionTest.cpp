@@ -40,6 +40,30 @@ TEST(CaptionLabel, largerLetters_takeMoreRoom) {
     EXPECT_GT(label.heightForWidth(300), 2 * height);
 }
 
+TEST(CaptionLabel, paintedLines_takeTheRoomThatTheHintsTold) {
+    CaptionLabel label(QStringLiteral("lblSummary"));
+    label.setCaption(
+        QStringLiteral("One two three four five six seven eight nine ten.\r\n\r\nEleven, twelve."));
+    for (const int width : {400, 90, 160, 90}) {
+        label.resize(width, label.heightForWidth(width));
+        const QImage image = label.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+        const auto inkIn = [&](int from, int to) {
+            for (int y = from; y < to; ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    if (qAbs(image.pixelColor(x, y).value() -
+                             image.pixelColor(image.width() - 1, 0).value()) > 100) {
+                        return true;
+                    }
+                }
+            }
+            return false;
+        };
+        const int line = label.fontMetrics().lineSpacing();
+        EXPECT_TRUE(inkIn(0, line)) << width;
+        EXPECT_TRUE(inkIn(image.height() - line, image.height())) << width;
+    }
+}
+
 TEST(AccentTabBar, selectedTab_isUnderlinedInTheAccentColor) {
     AccentTabBar bar;
     bar.addTab(QStringLiteral("One"));
