@@ -83,8 +83,8 @@ public:
         if (descriptor_ != -1) {
             ::close(descriptor_);
         }
-        if (created_ && !changed_) {
-            ::unlink(path_.constData()); // an empty file would only stand in the way
+        if (created_ && !whole_) {
+            ::unlink(path_.constData()); // what holds no document would only stand in the way
         }
     }
 
@@ -97,9 +97,9 @@ public:
         return status.st_size;
     }
 
-    /// Makes sure that the first `size` bytes can be written, also where the file has holes, without changing
-    /// its length.
-    void reserve([[maybe_unused]] off_t size) const {
+    /// Makes sure that a file of `oldSize` bytes can have `size`, also where it has holes, before any byte of
+    /// its content changes.
+    void reserve(off_t oldSize, off_t size) const {
         struct rlimit limit = {};
         if (::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
             static_cast<rlim_t>(size) > limit.rlim_cur) {
@@ -107,23 +107,28 @@ public:
         }
 #ifdef Q_OS_LINUX
         const int result = retried([&] { return ::fallocate(descriptor_, FALLOC_FL_KEEP_SIZE, 0, size); });
-        if (result == -1 && errno != EOPNOTSUPP && errno != ENOSYS) {
+        if (result == 0) {
+            return;
+        }
+        if (errno != EOPNOTSUPP && errno != ENOSYS) {
             throw failureOf(errno);
         }
 #endif
+        // Some disks, sticks and network folders reserve nothing: blanks behind the content take the room up.
+        if (size > oldSize) {
+            try {
+                writeAt(oldSize, QByteArray(static_cast<qsizetype>(size - oldSize), ' '));
+                flush();
+            } catch (const Failure&) {
+                cut(oldSize);
+                throw;
+            }
+        }
     }
 
     void write(const QByteArray& content) {
-        qsizetype done = 0;
-        while (done < content.size()) {
-            const ssize_t written = retried([&] {
-                return ::pwrite(descriptor_, content.constData() + done,
-                                static_cast<std::size_t>(content.size() - done), static_cast<off_t>(done));
-            });
-            check(written);
-            changed_ = true;
-            done += static_cast<qsizetype>(written);
-        }
+        writeAt(0, content);
+        whole_ = true;
     }
 
     void cut(off_t size) const {
@@ -146,6 +151,19 @@ public:
     }
 
 private:
+    void writeAt(off_t place, const QByteArray& content) const {
+        qsizetype done = 0;
+        while (done < content.size()) {
+            const ssize_t written = retried([&] {
+                return ::pwrite(descriptor_, content.constData() + done,
+                                static_cast<std::size_t>(content.size() - done),
+                                place + static_cast<off_t>(done));
+            });
+            check(written);
+            done += static_cast<qsizetype>(written);
+        }
+    }
+
     template<class Result>
     static void check(Result result) {
         if (result == -1) {
@@ -156,7 +174,7 @@ private:
     QByteArray path_;
     int descriptor_ = -1;
     bool created_ = false;
-    bool changed_ = false;
+    bool whole_ = false;
 };
 
 } // namespace
@@ -168,7 +186,7 @@ void writeOverFile(const QString& path, const QByteArray& content) {
     OpenFile file(QFile::encodeName(path));
     const off_t oldSize = file.size();
     const auto newSize = static_cast<off_t>(content.size());
-    file.reserve(std::max(newSize, oldSize));
+    file.reserve(oldSize, std::max(newSize, oldSize));
     if (newSize > oldSize) {
         file.write(content);
     } else {

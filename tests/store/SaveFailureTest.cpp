@@ -146,6 +146,41 @@ TEST_F(SaveFailureTest, SaveDocument_fullDisk_isDiskFullWithTheOldFileWhole) {
     EXPECT_TRUE(world.read(fileName + u".after"_s).contains("TEXT=\"short\""));
 }
 
+TEST_F(SaveFailureTest, SaveDocument_fullDiskThatReservesNoRoom_isDiskFullWithTheOldFileWhole) {
+    const QStringList unshare = privateMounts();
+    if (unshare.isEmpty()) {
+        GTEST_SKIP() << "no mount namespace is permitted here, neither as root nor as a user";
+    }
+    if (run(program, {path(), u"stay"_s, u"unreserved"_s}) == "nothing can be refused here\n") {
+        GTEST_SKIP() << "no system call can be refused here";
+    }
+    old = world.read(fileName);
+    // Some room is left behind the file, but too little for what it grows by.
+    const QString text = uR"(
+        mount -t tmpfs -o size=96k tmpfs "$2" && cp "$3" "$2/records.xml" || exit 1
+        dd if=/dev/zero of="$2/filler" bs=1k count=48 2>/dev/null
+        "$1" "$2/records.xml" "$4" unreserved
+        cat "$2/records.xml" > "$3.after")"_s;
+    const QString disk = world.file(u"disk"_s);
+    ASSERT_TRUE(QDir().mkdir(disk));
+    EXPECT_EQ(script(text, {disk, path(), u"grow"_s}, unshare), failed("61-Disk full"));
+    EXPECT_EQ(world.read(fileName + u".after"_s), old);
+    EXPECT_EQ(script(text, {disk, path(), u"shrink"_s}, unshare), "saved 1\nkept 1\n");
+}
+
+TEST_F(SaveFailureTest, SaveDocument_diskThatReservesNoRoom_isWrittenAllTheSame) {
+    for (const QString& change : {u"grow"_s, u"shrink"_s, u"stay"_s}) {
+        const QByteArray next = changed(change);
+        world.write(fileName, old);
+        const QByteArray said = run(program, {path(), change, u"unreserved"_s});
+        if (said == "nothing can be refused here\n") {
+            GTEST_SKIP() << "no system call can be refused here";
+        }
+        EXPECT_EQ(said, "saved 1\nkept 1\n");
+        EXPECT_EQ(world.read(fileName), next);
+    }
+}
+
 TEST_F(SaveFailureTest, SaveDocument_newFileThatFindsNoRoom_leavesNoEmptyFile) {
     struct rlimit limit = {};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
