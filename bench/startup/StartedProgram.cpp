@@ -1,12 +1,7 @@
 #include "FirstPaint.h"
+#include "app/Program.h"
 #include "app/Startup.h"
 #include "core/Global.h"
-#include "ui/frmView.h"
-#include "ui/platform/DialogPrompts.h"
-#include "ui/platform/QSettingsStore.h"
-#include "ui/platform/SystemBrowser.h"
-#include "ui/platform/SystemClock.h"
-#include "ui/platform/SystemPrinter.h"
 
 #include <QAction>
 #include <QApplication>
@@ -36,24 +31,11 @@ int main(int argc, char** argv) {
     }
     const QByteArray mode(argc > 2 ? argv[2] : "");
     const QString folder = QString::fromLocal8Bit(argv[1]);
-    DialogPrompts prompts;
-    QSettingsStore settings(folder + QStringLiteral("/settings.ini"));
-    SystemClock clock;
-    SystemPrinter printer;
-    SystemBrowser browser;
-    frmView mainWindow;
-    Services services;
-    services.prompts = &prompts;
-    services.settings = &settings;
-    services.clock = &clock;
-    services.mainWindow = &mainWindow;
-    services.printer = &printer;
-    services.browser = &browser;
-    services.applicationPath = folder;
-    Global::use(services);
-    const AfterFirstPaint ending(mainWindow, [&] {
+    Program program(folder + QStringLiteral("/settings.ini"));
+    Global::use(program.services(folder));
+    const AfterFirstPaint ending(program.mainWindow, [&] {
         if (mode == "report") {
-            openReport(mainWindow);
+            openReport(program.mainWindow);
         } else if (mode == "memory") {
             tellMemoryAndEnd();
         }

@@ -1,3 +1,4 @@
+#include "app/Program.h"
 #include "app/Startup.h"
 #include "core/Global.h"
 #include "core/Prompts.h"
@@ -7,11 +8,6 @@
 #include "pictures/PictureFile.h"
 #include "pictures/ReportPictures.h"
 #include "pictures/WindowTour.h"
-#include "ui/frmView.h"
-#include "ui/platform/QSettingsStore.h"
-#include "ui/platform/SystemBrowser.h"
-#include "ui/platform/SystemClock.h"
-#include "ui/platform/SystemPrinter.h"
 #include "ui/widgets/ColorContrast.h"
 
 #include <QApplication>
@@ -121,19 +117,9 @@ int main(int argc, char** argv) {
     copyFiles(data + QStringLiteral("/sample"), records.path());
 
     UnaskedPrompts prompts;
-    QSettingsStore settings(records.filePath(QStringLiteral("settings.ini")));
-    SystemClock clock;
-    SystemPrinter printer;
-    SystemBrowser browser;
-    frmView mainWindow;
-    Services services;
+    Program program(records.filePath(QStringLiteral("settings.ini")));
+    Services services = program.services(records.path());
     services.prompts = &prompts;
-    services.settings = &settings;
-    services.clock = &clock;
-    services.mainWindow = &mainWindow;
-    services.printer = &printer;
-    services.browser = &browser;
-    services.applicationPath = records.path();
     services.locale = QLocale(QLocale::English, QLocale::UnitedStates);
     Global::use(services);
     for (const QString& name : {QStringLiteral("LastLocation"), QStringLiteral("LastProfile")}) {
@@ -144,7 +130,7 @@ int main(int argc, char** argv) {
     const bool isLight = mode == modes.begin();
     const QString suffix = isLight ? QString() : u'-' + wanted;
     QApplication::processEvents();
-    visitWindows(mainWindow, [&](QWidget& window, const QString& name) {
+    visitWindows(program.mainWindow, [&](QWidget& window, const QString& name) {
         savePicture(window.grab().toImage(), folder + u'/' + name + suffix + QStringLiteral(".png"));
     });
     drawContactSheet(folder, suffix);
