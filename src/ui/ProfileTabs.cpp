@@ -28,6 +28,7 @@ QFrame* makeRule(const QColor& color, QWidget* parent) {
     auto* rule = new QFrame(parent);
     rule->setFixedHeight(thickness);
     rule->setAutoFillBackground(true);
+    rule->setBackgroundRole(QPalette::Window);
     QPalette palette = rule->palette();
     palette.setColor(QPalette::Window, color);
     rule->setPalette(palette);

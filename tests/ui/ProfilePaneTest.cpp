@@ -74,6 +74,18 @@ TEST_F(ProfilePaneTest, panels_areNestedInThePagesAndBands) {
     EXPECT_EQ(pages.tabText(2), u"Elements"_s);
 }
 
+TEST_F(ProfilePaneTest, directions_standUnderLinesInTheChartsColors) {
+    ProfileWorld::start();
+    pane_.at<QTabWidget>("tabProfile").setCurrentIndex(1);
+    QStringList colors;
+    for (QFrame* line : pane_.at<QWidget>("vsAuspicious").findChildren<QFrame*>()) {
+        if (qobject_cast<QLabel*>(line) == nullptr) {
+            colors << line->grab().toImage().pixelColor(line->rect().center()).name();
+        }
+    }
+    EXPECT_EQ(colors, QStringList({u"#6aea97"_s, u"#aae3ff"_s}));
+}
+
 TEST_F(ProfilePaneTest, tab_goesFromTheNameToTheButtonsThatStore) {
     ProfileWorld::start();
     QStringList names;

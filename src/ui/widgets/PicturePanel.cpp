@@ -85,17 +85,26 @@ QRect PicturePanel::captionRect() const {
 }
 
 void PicturePanel::paintEvent(QPaintEvent* /*event*/) {
+    // Opaque colours: Qt hands every translucent fill with smooth edges to threads, which costs more than the
+    // fill.
+    const auto tint = [this](double strength) {
+        return ColorContrast::between(palette().color(backgroundRole()),
+                                      palette().color(QPalette::WindowText), strength);
+    };
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!picture_.isNull()) {
         picture_.paint(&painter, pictureRect());
+        // A white tile would have no edge on a white page.
+        constexpr double hairline = 0.15;
+        constexpr double half = 0.5;
+        painter.setPen(tint(hairline));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(pictureRect()).adjusted(half, half, -half, -half), corner, corner);
     } else if (placeMarked_) {
         constexpr double faint = 0.08;
         painter.setPen(Qt::NoPen);
-        // An opaque colour: Qt hands every translucent fill with smooth edges to threads, which costs more
-        // than the fill.
-        painter.setBrush(ColorContrast::between(palette().color(backgroundRole()),
-                                                palette().color(QPalette::WindowText), faint));
+        painter.setBrush(tint(faint));
         painter.drawRoundedRect(pictureRect(), corner, corner);
     }
     paintCaption(painter);
