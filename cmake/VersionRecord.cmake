@@ -9,6 +9,7 @@ set(TALIVANE_COMMENTS
     "Feng shui is a tradition, not a science. This program passes its rules on for your own reflection; it does not \
 take the place of professional advice on health, building or money."
     CACHE STRING "The comments at the foot of the about box")
+set(TALIVANE_DESKTOP_ID "com.orvenel.Talivane" CACHE STRING "The application id; packaging/ has files of this name")
 set(TALIVANE_SITE "https://www.talivane.example/" CACHE STRING "The maker's web site, which the help links open")
 
 # talivane_version_record(TARGET): gives the target, and all that link it, the header core/VersionRecord.h.

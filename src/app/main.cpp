@@ -1,6 +1,7 @@
 #include "app/Program.h"
 #include "app/Startup.h"
 #include "core/Global.h"
+#include "core/VersionRecord.h"
 #include "ui/widgets/ColorContrast.h"
 #include "ui/widgets/SvgIcon.h"
 
@@ -8,9 +9,8 @@
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Talivane"));
-    // The name under which desktops know the program's entry and icon.
-    QApplication::setDesktopFileName(QStringLiteral("com.orvenel.Talivane"));
+    QApplication::setApplicationName(VersionRecord::title.toString());
+    QApplication::setDesktopFileName(VersionRecord::desktopId.toString());
     QApplication::setPalette(ColorContrast::legibleSelection(QApplication::palette()));
     QApplication::setWindowIcon(svgIcon(QStringLiteral(":/talivane/pictures/talivane.svg")));
 

@@ -9,7 +9,15 @@ function(install_once)
   endif()
 endfunction()
 
+# The licences of the libraries, as far as the system that this was built on tells them.
 install_once()
+foreach(licence Qt=libqt6core6 pugixml=libpugixml1v5)
+  string(REGEX MATCH "^([^=]*)=(.*)$" parts "${licence}")
+  if(EXISTS "/usr/share/doc/${CMAKE_MATCH_2}/copyright" AND NOT EXISTS "${FOLDER}/licences/${CMAKE_MATCH_1}.txt")
+    message(FATAL_ERROR "The licence of ${CMAKE_MATCH_1} was not installed")
+  endif()
+endforeach()
+
 foreach(name Animals Colors Directions Elements FloorTypes KUAYears PersonalDirections RoomTypes Symbols TimeOfDay
              Trigrams Floors Locations Profiles Rooms)
   if(NOT EXISTS "${FOLDER}/${name}.xml")
