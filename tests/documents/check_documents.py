@@ -25,6 +25,7 @@ RUN_ELSEWHERE = {
 # What would take minutes here, with the part of it that shows that it would start.
 TRIED = {
     "./dev bench": ["BENCH", "--benchmark_list_tests"],
+    "./dev coverage": ["cmake", "--list-presets=test"],
     "TALIVANE_PRESET=sanitize ./dev test": ["cmake", "--list-presets=test"],
 }
 
@@ -103,8 +104,8 @@ def run(command, root, programs, folder):
     elif words[:2] != ["./dev", "help"]:
         return False
     output = subprocess.run(words, cwd=root, check=True, capture_output=True, encoding="utf-8")
-    preset = re.match(r"TALIVANE_PRESET=(\w+)", command)
-    assert not preset or f'"{preset[1]}"' in output.stdout, f"there is no preset {preset[1]}"
+    preset = re.search(r"TALIVANE_PRESET=(\w+)|\./dev (coverage)$", command)
+    assert not preset or f'"{preset[1] or preset[2]}"' in output.stdout, f"no preset for {command}"
     return bool(output.stdout or output.stderr)
 
 
