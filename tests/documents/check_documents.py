@@ -26,7 +26,6 @@ RUN_ELSEWHERE = {
 TRIED = {
     "./dev bench": ["BENCH", "--benchmark_list_tests"],
     "./dev coverage": ["cmake", "--list-presets=test"],
-    "TALIVANE_PRESET=sanitize ./dev test": ["cmake", "--list-presets=test"],
 }
 
 
@@ -87,6 +86,25 @@ def verbs_in_help(root):
     return set(re.findall(r"^\./dev (\w+)", text, re.MULTILINE))
 
 
+def check_test_run(command, root):
+    """A run of the tests like this one, in some other way: its preset, its test and its variables are there."""
+    variables, _, arguments = command.partition("./dev test")
+    for name, value in re.findall(r"(\w+)=(\w+)", variables):
+        if name == "TALIVANE_PRESET":
+            presets = subprocess.run(
+                ["cmake", "--list-presets=test"], cwd=root, check=True, capture_output=True, encoding="utf-8"
+            ).stdout
+            assert f'"{value}"' in presets, f"{command}: there is no preset {value}"
+        else:
+            assert mentioned(root, name), f"{command}: no test reads {name}"
+    wanted = re.search(r"-R (\w+)", arguments)
+    assert not wanted or mentioned(root, wanted[1]), f"{command}: there is no such test"
+
+
+def mentioned(root, word):
+    return any(word in file.read_text("utf-8") for file in root.glob("tests/**/*.[ch]*"))
+
+
 def run(command, root, programs, folder):
     """Runs a command as the document means it; a verb that would build first goes to what it has built."""
     transcript, bench = programs
@@ -104,8 +122,7 @@ def run(command, root, programs, folder):
     elif words[:2] != ["./dev", "help"]:
         return False
     output = subprocess.run(words, cwd=root, check=True, capture_output=True, encoding="utf-8")
-    preset = re.search(r"TALIVANE_PRESET=(\w+)|\./dev (coverage)$", command)
-    assert not preset or f'"{preset[1] or preset[2]}"' in output.stdout, f"no preset for {command}"
+    assert command != "./dev coverage" or '"coverage"' in output.stdout, "there is no preset coverage"
     return bool(output.stdout or output.stderr)
 
 
@@ -118,6 +135,8 @@ def check_commands(root, programs):
         if elsewhere is not None:
             place, words = elsewhere
             assert words in (root / place).read_text("utf-8"), f"{command}: {place} does not run it"
+        elif re.match(r"(\w+=\w+ )*\./dev test\b", command):
+            check_test_run(command, root)
         else:
             with tempfile.TemporaryDirectory() as folder:
                 assert run(command, root, programs, pathlib.Path(folder)), f"{file}: nothing runs {command}"
