@@ -21,16 +21,16 @@ void requireWritable(const QString& path) {
 
 } // namespace
 
-void replaceFile(const QString& path, const std::function<void(QIODevice&)>& writer) {
+void replaceFile(const QString& path, const QByteArray& content) {
     requireWritable(path);
     QSaveFile file(path);
     file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly)) {
         throw failure(ErrorNumber::PermissionDenied);
     }
-    writer(file);
-    // Asked before the commit, which says nothing of a file written over directly.
-    if (!file.flush() || file.error() != QFileDevice::NoError) {
+    // A disk with a little room left takes a part and calls that no error. Asked before the commit, which
+    // says nothing of a file written over directly.
+    if (file.write(content) != content.size() || !file.flush() || file.error() != QFileDevice::NoError) {
         file.cancelWriting();
         throw failure(ErrorNumber::DiskFull);
     }

@@ -96,8 +96,9 @@ void FaultStage::start() {
 void FaultStage::strike() {
     EXPECT_TRUE(boxes.noted().isEmpty()) << "before the fault: " << qPrintable(boxes.noted().join(u'\n'));
     Unprivileged::own(root_);
-    if (fault_ == Fault::FullDisk) {
-        disk_.fill();
+    if (fault_ == Fault::FullDisk || fault_ == Fault::NearlyFull) {
+        constexpr qsizetype somePages = 8192;
+        disk_.fill(fault_ == Fault::FullDisk ? 0 : somePages);
     }
     inflict(fault_, pathOf(place_));
     Unprivileged::own(root_);

@@ -27,7 +27,8 @@ void expectAll(const FaultTable& rows) {
     int leftOut = 0;
     for (const FaultRow& row : rows) {
         for (const Fault fault : row.faults) {
-            if (fault == Fault::FullDisk && !SmallDisk::isPossible()) {
+            const bool needsDisk = fault == Fault::FullDisk || fault == Fault::NearlyFull;
+            if (needsDisk && !SmallDisk::isPossible()) {
                 ++leftOut;
                 continue;
             }

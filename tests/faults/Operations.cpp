@@ -23,7 +23,7 @@ using namespace WindowDriver;
 namespace {
 
 /// So long that a file that takes it up needs more room on the disk.
-const QString longName = QString(9000, u'n');
+const QString longName = QString(20000, u'n');
 
 void enter(QWidget& window, const char* name, const QString& text) {
     auto& field = control<QLineEdit>(window, name);

@@ -43,8 +43,9 @@ void write(const QString& path, const QByteArray& bytes) {
 } // namespace
 
 const char* nameOf(Fault fault) {
-    constexpr std::array names = {"none",         "missing",      "empty",     "truncated", "directory",
-                                  "not readable", "not writable", "locked up", "full disk", "no folder"};
+    constexpr std::array names = {"none",      "missing",          "empty",        "truncated",
+                                  "directory", "not readable",     "not writable", "locked up",
+                                  "full disk", "nearly full disk", "no folder"};
     return names.at(static_cast<std::size_t>(fault));
 }
 
@@ -128,7 +129,7 @@ bool SmallDisk::isPossible() {
     return ownMounts;
 }
 
-void SmallDisk::fill() {
+void SmallDisk::fill(qsizetype room) {
     ASSERT_TRUE(mounted_);
     QFile filler(mountPoint_.filePath(QStringLiteral("filler")));
     ASSERT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
@@ -136,6 +137,7 @@ void SmallDisk::fill() {
         while (filler.write(QByteArray(size, 'f')) == size) {
         }
     }
+    ASSERT_TRUE(filler.resize(filler.size() - room));
 }
 
 void inflict(Fault fault, const QString& file) {
@@ -143,6 +145,7 @@ void inflict(Fault fault, const QString& file) {
     switch (fault) {
     case Fault::None:
     case Fault::FullDisk:
+    case Fault::NearlyFull:
         break;
     case Fault::Missing:
         EXPECT_TRUE(QFile::remove(file) || !QFile::exists(file));

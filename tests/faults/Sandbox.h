@@ -16,6 +16,7 @@ enum class Fault {
     NotWritable, ///< the user may read the file but not write it
     LockedUp,    ///< the user may neither write the file nor change its folder
     FullDisk,    ///< there is no room for another byte
+    NearlyFull,  ///< there is room for a part of what will be written
     NoFolder,    ///< the folder has gone with all that was in it
 };
 
@@ -60,8 +61,8 @@ public:
 
     /// Whether this process may mount a disk.
     [[nodiscard]] static bool isPossible();
-    /// Leaves no room for another byte.
-    void fill();
+    /// Leaves so many bytes of room, in whole pages of memory.
+    void fill(qsizetype room);
 
 private:
     QTemporaryDir mountPoint_;

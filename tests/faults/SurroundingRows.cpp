@@ -36,6 +36,7 @@ void addPdf(FaultTable& rows) {
     rows.push_back({file, {Fault::Directory}, print, {label + noFile}, {settings}});
     rows.push_back({file, {Fault::NoFolder}, print, {label + noPath}, {settings}});
     rows.push_back({file, {Fault::FullDisk}, print, {label + diskFull}, {}});
+    rows.push_back({file, {Fault::NearlyFull}, print, {label + diskFull}, {settings}});
     rows.push_back({file,
                     {Fault::None},
                     Operations::printNowhere,
@@ -63,6 +64,11 @@ FaultTable surroundingRows() {
     addHtml(rows, Operations::saveChart, QStringLiteral("frmNineKi.GetNineKiChart"));
     addHtml(rows, Operations::saveProfile, QStringLiteral("frmRoom.mnuFileSaveAs_Click"));
     addHtml(rows, Operations::saveElement, QStringLiteral("frmElements.mnuFileSaveAs_Click"));
+    rows.push_back({"out/report.html",
+                    {Fault::NearlyFull},
+                    Operations::saveRooms,
+                    {QStringLiteral("cLocation.Analyze Rooms: ") + diskFull},
+                    {settings}});
     addPdf(rows);
     // Settings fail in silence: what cannot be read is as at the first start, what cannot be written is lost.
     const char* const file = "settings/Talivane.ini";

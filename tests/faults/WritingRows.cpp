@@ -51,6 +51,9 @@ void add(FaultTable& rows, const Writing& writing) {
     others.removeAll(settings);
     row({Fault::FullDisk}, writing.grows ? QStringList{save(diskFull)} : QStringList(),
         writing.grows ? others : written);
+    if (writing.grows) {
+        row({Fault::NearlyFull}, {save(diskFull)}, writing.others);
+    }
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "reports/pages/PageDocument.h"
 #include "reports/pages/PagePainter.h"
 
+#include <QBuffer>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -19,11 +20,14 @@ constexpr double twipsPerPoint = 20;
 } // namespace
 
 void writeHtml(const PageDocument& document, const QString& path) {
-    replaceFile(path, [&document](QIODevice& file) { file.write(htmlOf(document)); });
+    replaceFile(path, htmlOf(document));
 }
 
 void writePdf(const PageDocument& document, const QString& path) {
-    replaceFile(path, [&document](QIODevice& file) { writePdf(document, file); });
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    writePdf(document, pdf);
+    replaceFile(path, pdf.data());
 }
 
 void writePdf(const PageDocument& document, QIODevice& device) {

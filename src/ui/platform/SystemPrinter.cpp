@@ -108,7 +108,7 @@ void printIntoFile(QPrinter& printer, const std::vector<qint32>& pages, const Pr
     if (!pdf.trimmed().endsWith("%%EOF")) { // the printer does not always tell when its file finds no room
         throw failure(ErrorNumber::DiskFull);
     }
-    replaceFile(named, [&pdf](QIODevice& file) { file.write(pdf); });
+    replaceFile(named, pdf);
 }
 
 } // namespace
