@@ -9,7 +9,6 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -138,7 +137,7 @@ void RandomUser::actInList(QAbstractItemView& list) {
     }
     const int entry = journal_.below(count);
     perform(name, u"entry %1 chosen in the list"_s.arg(entry), [&] {
-        const int from = std::max(list.currentIndex().row(), 0);
+        const int from = list.currentIndex().row(); // -1 where what is shown does not stand in the list
         for (int step = from; step != entry; step += entry > from ? 1 : -1) {
             QTest::keyClick(&list, entry > from ? Qt::Key_Down : Qt::Key_Up);
         }
