@@ -72,8 +72,9 @@ MessageAnswer RandomPrompts::messageBox(const QString& title, const QString& tex
                              answer == MessageAnswer::Yes  ? QStringLiteral("Yes")
                              : answer == MessageAnswer::No ? QStringLiteral("No")
                                                            : QStringLiteral("OK")));
-    droppedPerson =
-        droppedPerson || (title == QStringLiteral("Select Profile") && answer == MessageAnswer::No);
+    if (title == QStringLiteral("Select Profile") && answer == MessageAnswer::No) {
+        onDroppedPerson();
+    }
     if (icon == MessageIcon::Critical) {
         checkReport(title, text);
     }

@@ -3,6 +3,8 @@
 #include "core/Prompts.h"
 #include "soak/Journal.h"
 
+#include <functional>
+
 /// Answers every box by chance. A report of a failure must be one of those that a user's own doing calls for
 /// (the list stands with the code); any other fails the test.
 class RandomPrompts final : public Prompts {
@@ -12,8 +14,8 @@ public:
 
     /// The reports of failures that came, each once.
     [[nodiscard]] const QStringList& reports() const { return reports_; }
-    /// Whether the list of people was opened over unsaved changes, and they were not to be saved.
-    bool droppedPerson = false;
+    /// Called where the list of people was opened over unsaved changes that were not to be saved.
+    std::function<void()> onDroppedPerson;
 
     MessageAnswer messageBox(const QString& title, const QString& text, MessageIcon icon,
                              MessageButtons buttons) override;
