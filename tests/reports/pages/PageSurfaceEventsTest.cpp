@@ -115,6 +115,30 @@ TEST_F(PageSurfaceEventsTest, onFooter_setsTheFootersFontOnly) {
     }
 }
 
+TEST_F(PageSurfaceEventsTest, onFooter_everyPartOfTheFontIsTheFootersAlone) {
+    const QString face = anotherFace();
+    surface.onFooter = [&] {
+        surface.HdrFontName(face);
+        surface.HdrFontItalic(true);
+        surface.HdrFontUnderline(true);
+        surface.HdrFontStrikethru(true);
+        surface.HdrColor(0x0000FF);
+    };
+    surface.StartDoc();
+    modRooms::SetReportHeader(surface, QStringLiteral("Bedroom"), 0);
+    modRooms::SetReportFooter(surface, QStringLiteral("* note"));
+    surface.Write(lines(linesOfPage + 1));
+    surface.EndDoc();
+    const TextStyle& header = page(2).header.text->style();
+    EXPECT_EQ(header.face, QString());
+    EXPECT_FALSE(header.italic || header.underline || header.strikethrough);
+    EXPECT_EQ(header.color, QColor(0, 0, 0));
+    const TextStyle& footer = page(2).footer.text->style();
+    EXPECT_EQ(footer.face, face);
+    EXPECT_TRUE(footer.italic && footer.underline && footer.strikethrough);
+    EXPECT_EQ(footer.color, QColor(255, 0, 0));
+}
+
 TEST_F(PageSurfaceEventsTest, onFooter_isRaisedOnceForEachPageAndMaySetTheFooter) {
     int raised = 0;
     surface.onFooter = [&] { surface.Footer(QString::number(++raised)); };

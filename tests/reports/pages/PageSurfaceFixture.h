@@ -3,9 +3,11 @@
 #include "reports/pages/PageSurface.h"
 #include "reports/surface/ReportRoutines.h"
 
+#include <QFontDatabase>
 #include <QStringList>
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <vector>
 
 /// A surface with A4 pages, prepared as every report prepares it, and the arithmetic of its base font.
@@ -28,6 +30,16 @@ protected:
 
     /// Words of five digits, so many of them.
     static QString words(int count) { return QStringList(count, QStringLiteral("00000")).join(u' '); }
+
+    /// Some installed face besides the default one.
+    static QString anotherFace() {
+        for (const QString& face : QFontDatabase::families()) {
+            if (face != QStringLiteral("Arial") && QFontDatabase::hasFamily(face) && !face.contains(u'\'')) {
+                return face;
+            }
+        }
+        throw std::runtime_error("there is one face only");
+    }
 
     /// A paragraph of so many lines.
     static QString lines(int count) {

@@ -102,13 +102,14 @@ TEST_F(PageSurfaceFlowTest, Write_afterCurrentX_beginsThereWithoutIndentsAndGoes
 
 TEST_F(PageSurfaceFlowTest, Write_positionedBeyondTheRightMargin_staysOnOneLine) {
     surface.StartDoc();
-    for (const double x : {pageWidth - inch - 100, pageWidth - inch + 100, pageWidth + 500}) {
+    for (const double x :
+         {pageWidth - inch - 100, pageWidth - inch, pageWidth - inch + 100, pageWidth + 500}) {
         surface.CurrentX(x);
         surface.CurrentY(7500);
         surface.Write(QStringLiteral("SW"));
     }
     surface.EndDoc();
-    EXPECT_EQ(textOn(1), QStringList(3, QStringLiteral("SW")));
+    EXPECT_EQ(textOn(1), QStringList(4, QStringLiteral("SW")));
 }
 
 TEST_F(PageSurfaceFlowTest, Write_marginsChangedMidDocument_holdForWhatFollows) {
@@ -147,6 +148,22 @@ TEST_F(PageSurfaceFlowTest, Write_exactlyAPage_needsNoSecond) {
     surface.Write(lines(linesOfPage));
     surface.EndDoc();
     EXPECT_EQ(surface.PageCount(), 1);
+}
+
+TEST_F(PageSurfaceFlowTest, Write_lineThatEndsOnTheBottomMargin_stands) {
+    constexpr double below = 3000;
+    surface.StartDoc();
+    surface.Write(QStringLiteral("line"));
+    surface.EndDoc();
+    const double height = linesOn(1).at(0).text->lineHeight();
+    for (const auto& [beyond, pages] : {std::pair(0.0, 1), {0.25, 2}}) {
+        surface.MarginBottom(pageHeight - below - height + beyond);
+        surface.StartDoc();
+        surface.CurrentY(below);
+        surface.Write(QStringLiteral("line"));
+        surface.EndDoc();
+        EXPECT_EQ(surface.PageCount(), pages) << beyond;
+    }
 }
 
 TEST_F(PageSurfaceFlowTest, Write_lineHigherThanThePage_isSetAnyway) {
