@@ -27,11 +27,14 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QSize designSize(1080, 720);
+constexpr int group = 16;
 const QString insertMode = u"INSERT"_s;
 const QString updateMode = u"UPDATE"_s;
 
@@ -53,7 +56,6 @@ void setCaption(QPushButton& button, const QString& caption) {
 frmRoom::frmRoom(QWidget* parent)
     : QDialog(parent) {
     constexpr int edge = 24;
-    constexpr int group = 16;
     setObjectName(u"frmRoom"_s);
     setWindowTitle(tr("Room"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -83,7 +85,6 @@ frmRoom::~frmRoom() {
 }
 
 QWidget* frmRoom::buildFacts() {
-    constexpr int group = 16;
     constexpr int between = 8;
     constexpr int comfortableWidth = 416;
     auto* facts = new QWidget(this);
@@ -307,9 +308,8 @@ void frmRoom::roomEdited() {
 void frmRoom::roomStored() {
     RoomSaved = true;
     RoomChanged = false;
-    // The keyboard's focus would leap to the next button, where a second press would print.
     if (cmdOK->hasFocus()) {
-        cmdCancel->setFocus();
+        cmdCancel->setFocus(); // the focus would leap to the button that prints
     }
     cmdOK->setEnabled(false);
 }
@@ -377,15 +377,13 @@ void frmRoom::askToSave() {
         Global::service(&Services::prompts)
             .messageBox(u"Close"_s, u"Would you like to save your changes before closing?"_s,
                         MessageIcon::Question, MessageButtons::YesNo);
-    if (answer == MessageAnswer::No) {
-        RoomChanged = false;
-        return;
+    RoomChanged = answer == MessageAnswer::Yes;
+    if (RoomChanged) {
+        const bool savedBefore = std::exchange(RoomSaved, false);
+        mnuFileSave_Click();
+        RoomChanged = !RoomSaved; // numbers that the save wrote anew on the screen are no reason to ask again
+        RoomSaved = RoomSaved || savedBefore;
     }
-    const bool savedBefore = RoomSaved;
-    RoomSaved = false;
-    mnuFileSave_Click();
-    RoomChanged = !RoomSaved; // numbers that the save wrote anew on the screen are no reason to ask again
-    RoomSaved = RoomSaved || savedBefore;
 }
 
 void frmRoom::mnuFileClose_Click() {
