@@ -102,14 +102,17 @@ TEST_F(PageSurfaceFlowTest, Write_afterCurrentX_beginsThereWithoutIndentsAndGoes
 
 TEST_F(PageSurfaceFlowTest, Write_positionedBeyondTheRightMargin_staysOnOneLine) {
     surface.StartDoc();
-    for (const double x :
-         {pageWidth - inch - 100, pageWidth - inch, pageWidth - inch + 100, pageWidth + 500}) {
+    surface.CurrentX(pageWidth - inch - 100);
+    surface.CurrentY(7000);
+    surface.Write(QStringLiteral("SW")); // begins before the margin: a word is not broken
+    for (const double x : {pageWidth - inch, pageWidth - inch + 100, pageWidth + 500}) {
         surface.CurrentX(x);
         surface.CurrentY(7500);
-        surface.Write(QStringLiteral("SW"));
+        surface.Write(QStringLiteral("S W")); // neither is a line from the margin on
     }
     surface.EndDoc();
-    EXPECT_EQ(textOn(1), QStringList(4, QStringLiteral("SW")));
+    const QString whole = QStringLiteral("S W");
+    EXPECT_EQ(textOn(1), (QStringList{QStringLiteral("SW"), whole, whole, whole}));
 }
 
 TEST_F(PageSurfaceFlowTest, Write_marginsChangedMidDocument_holdForWhatFollows) {
