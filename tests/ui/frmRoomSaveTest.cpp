@@ -2,6 +2,8 @@
 #include "ui/frmRoom.h"
 #include "ui/widgets/TitleBand.h"
 
+#include <ostream>
+
 using namespace Qt::StringLiterals;
 using namespace WindowDriver;
 
@@ -19,6 +21,11 @@ struct Entered {
     const char* shownFeet;
     const char* shownInches;
 };
+
+/// So that a case is named by what is entered, not by where its texts lie.
+void PrintTo(const Entered& entered, std::ostream* out) {
+    *out << entered.feet << " ft " << entered.inches << " in";
+}
 
 constexpr Entered enteredLengths[] = {
     {"10", "6", "126", "10", "6"},  {"0", "0", "120", "10", "0"},        {"", "", "120", "10", "0"},
