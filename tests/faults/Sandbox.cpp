@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -87,6 +88,7 @@ Unprivileged::Unprivileged() {
 Unprivileged::~Unprivileged() {
     if (dropped_) {
         EXPECT_EQ(setresuid(0, 0, 0), 0);
+        prctl(PR_SET_DUMPABLE, 1); // what looks for leaks at the end must be able to look into the process
     }
 }
 
