@@ -6,7 +6,8 @@ set -eu
 export DISPLAY=:77
 Xvfb :77 -screen 0 1280x900x24 >/dev/null 2>&1 &
 screen=$!
-trap 'kill $screen' EXIT
+# Waited for: the next one to use this screen's number would else find the old screen, on its way out.
+trap 'kill $screen; wait $screen || true' EXIT
 
 waited=0
 wait_for() { # wait_for COMMAND...: polls for half a minute
