@@ -42,8 +42,8 @@ Quotient withReport() {
 [[maybe_unused]] const bool added =
     addQuotient({"memory at rest, with a person and a home: the program to an empty window with its menus",
                  atRest, 1.5}) &&
-    addQuotient({"memory with the report on a home of 300 rooms open, to the same program at rest",
-                 withReport, 2}) &&
+    addQuotient(
+        {"memory with the report on a home of 300 rooms open, to the same program at rest", withReport, 2}) &&
     addQuotient({"memory that a report takes for a room: 300 rooms to 100 rooms", ofARoom, 1.2});
 
 } // namespace
