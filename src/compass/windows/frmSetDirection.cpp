@@ -71,10 +71,9 @@ void frmSetDirection::picFloorPlan_KeyDown(double degrees) {
         constexpr double fullTurn = 360;
         const cLocation& home = currentLocation();
         // The letter N turns where it stands.
-        const CompassGeometry::PlanPoint from =
-            home.NORTHOFFSET != 0 ? CompassGeometry::PlanPoint{.X = home.LABLEX, .Y = home.LABLEY}
-                                  : CompassDrawing::unsetNorth(picFloorPlan->picture());
-        const double distance = std::hypot(from.X, from.Y);
+        const CompassGeometry::PlanPoint unset = CompassDrawing::unsetNorth(picFloorPlan->picture());
+        const double shown = home.NORTHOFFSET != 0 ? std::hypot(home.LABLEX, home.LABLEY) : 0;
+        const double distance = shown > 0 ? shown : std::hypot(unset.X, unset.Y);
         const double north = std::fmod(std::round(home.NORTHOFFSET) + degrees + fullTurn, fullTurn);
         const double turn = CompassGeometry::DegreesToRadians(north);
         const double X = distance * std::sin(turn);

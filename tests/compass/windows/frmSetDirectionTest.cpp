@@ -133,6 +133,16 @@ TEST_F(frmSetDirectionTest, arrowKeys_goRoundTheCircleFromANorthThatWasNeverSet)
     });
 }
 
+TEST_F(frmSetDirectionTest, arrowKeys_ofANorthWithoutALettersPlace_turnItAtThePlansEdge) {
+    Global::CurrentLocation->LABLEX = 0;
+    Global::CurrentLocation->LABLEY = 0;
+    show([&](QWidget& window) {
+        press(window, Qt::Key_Right);
+        EXPECT_NEAR(Global::CurrentLocation->NORTHOFFSET, 41, 1e-6);
+        EXPECT_GT(std::hypot(Global::CurrentLocation->LABLEX, Global::CurrentLocation->LABLEY), 0);
+    });
+}
+
 TEST_F(frmSetDirectionTest, cancelAfterThreeClicks_leavesAllAsBefore) {
     const QByteArray locations = home_.world.read(QStringLiteral("Locations.xml"));
     const QByteArray rooms = home_.world.read(QStringLiteral("Rooms.xml"));
