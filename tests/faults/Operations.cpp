@@ -25,8 +25,8 @@ namespace {
 /// So long that a file that takes it up needs more room on the disk.
 const QString longName = QString(20000, u'n');
 
-void enter(QWidget& window, const char* name, const QString& text) {
-    auto& field = control<QLineEdit>(window, name);
+/// Types a text over the one in a field.
+void enter(QLineEdit& field, const QString& text) {
     field.setFocus();
     field.selectAll();
     QInputMethodEvent input;
@@ -34,14 +34,13 @@ void enter(QWidget& window, const char* name, const QString& text) {
     QCoreApplication::sendEvent(&field, &input);
 }
 
+void enter(QWidget& window, const char* name, const QString& text) {
+    enter(control<QLineEdit>(window, name), text);
+}
+
 /// Types a name over the one in a list's field.
 void rename(QWidget& window, const char* list, const QString& name) {
-    auto& field = *control<RecordList>(window, list).lineEdit();
-    field.setFocus();
-    field.selectAll();
-    QInputMethodEvent input;
-    input.setCommitString(name);
-    QCoreApplication::sendEvent(&field, &input);
+    enter(*control<RecordList>(window, list).lineEdit(), name);
 }
 
 void goToHomes(FaultStage& stage) {
@@ -80,6 +79,13 @@ void selectKitchen(FaultStage& stage) {
 /// Opens a window from the menu of the advice and does something in it.
 void advise(FaultStage& stage, const char* entry, const std::function<void(QWidget&)>& inside) {
     whileModal([&] { choose(stage.view(), "mnuAdvice", entry); }, inside);
+}
+
+/// Starts the program and asks for advice, with the fault coming between the two.
+void adviseStruck(FaultStage& stage, const char* entry, const std::function<void(QWidget&)>& inside) {
+    stage.start();
+    stage.strike();
+    advise(stage, entry, inside);
 }
 
 void editKitchen(FaultStage& stage, const std::function<void(QWidget&)>& inside) {
@@ -209,23 +215,15 @@ const Operation openRoom{"open a room", [](FaultStage& stage) {
                          }};
 
 const Operation reportRooms{"report on the rooms", [](FaultStage& stage) {
-                                stage.start();
-                                stage.strike();
-                                advise(stage, "mnuAdviceRooms",
-                                       [](QWidget& window) { click(window, "cmdOK"); });
+                                adviseStruck(stage, "mnuAdviceRooms",
+                                             [](QWidget& window) { click(window, "cmdOK"); });
                             }};
 
-const Operation chartYear{"chart a year", [](FaultStage& stage) {
-                              stage.start();
-                              stage.strike();
-                              advise(stage, "mnuAdviceNineKi", &adviseOnDate);
-                          }};
+const Operation chartYear{"chart a year",
+                          [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceNineKi", &adviseOnDate); }};
 
-const Operation adviseMove{"advise on a move", [](FaultStage& stage) {
-                               stage.start();
-                               stage.strike();
-                               advise(stage, "mnuAdviceMoving", &adviseOnDate);
-                           }};
+const Operation adviseMove{"advise on a move",
+                           [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceMoving", &adviseOnDate); }};
 
 const Operation renamePerson{"rename a person", [](FaultStage& stage) {
                                  stage.start();
@@ -317,11 +315,8 @@ const Operation setNorth{"set North", [](FaultStage& stage) {
                                  });
                          }};
 
-const Operation saveRooms{"save the report on the rooms", [](FaultStage& stage) {
-                              stage.start();
-                              stage.strike();
-                              advise(stage, "mnuAdviceRooms", &saveAsHtml);
-                          }};
+const Operation saveRooms{"save the report on the rooms",
+                          [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceRooms", &saveAsHtml); }};
 
 const Operation saveRoom{"save the report on a room", [](FaultStage& stage) {
                              startAtHomes(stage);
@@ -330,31 +325,21 @@ const Operation saveRoom{"save the report on a room", [](FaultStage& stage) {
                          }};
 
 const Operation saveChart{"save the chart of a year", [](FaultStage& stage) {
-                              stage.start();
-                              stage.strike();
-                              advise(stage, "mnuAdviceNineKi", [](QWidget& window) {
+                              adviseStruck(stage, "mnuAdviceNineKi", [](QWidget& window) {
                                   enter(window, "txtMoveDate", u"6/1/2026"_s);
                                   saveAsHtml(window);
                               });
                           }};
 
-const Operation saveProfile{"save the report on a person", [](FaultStage& stage) {
-                                stage.start();
-                                stage.strike();
-                                advise(stage, "mnuAdviceProfile", &saveAsHtml);
-                            }};
+const Operation saveProfile{"save the report on a person",
+                            [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceProfile", &saveAsHtml); }};
 
-const Operation saveElement{"save the report on an element", [](FaultStage& stage) {
-                                stage.start();
-                                stage.strike();
-                                advise(stage, "mnuAdviceElement", &saveAsHtml);
-                            }};
+const Operation saveElement{"save the report on an element",
+                            [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceElement", &saveAsHtml); }};
 
 const Operation printRooms{"print the report on the rooms", [](FaultStage& stage) {
-                               stage.start();
-                               stage.strike();
-                               advise(stage, "mnuAdviceRooms",
-                                      [](QWidget& window) { click(window, "cmdPrint"); });
+                               adviseStruck(stage, "mnuAdviceRooms",
+                                            [](QWidget& window) { click(window, "cmdPrint"); });
                            }};
 
 const Operation printNowhere{"print where no printer is", [](FaultStage& stage) {

@@ -31,6 +31,16 @@ protected:
         return {};
     }
 
+    /// A script that saves on a small disk, which a filler behind the record file takes up as far as told;
+    /// its last line hands the file out.
+    static QString onSmallDisk(const QString& filler, const QString& probeArguments) {
+        return uR"(
+        mount -t tmpfs -o size=96k tmpfs "$2" && cp "$3" "$2/records.xml" || exit 1
+        dd if=/dev/zero of="$2/filler" bs=1k %1 2>/dev/null
+        "$1" "$2/records.xml" "$4" %2
+        cat "$2/records.xml" > "$3.after")"_s.arg(filler, probeArguments);
+    }
+
     /// Runs a shell script with the probe as $1 and arguments behind it.
     static QByteArray script(const QString& text, const QStringList& arguments,
                              const QStringList& unshare = {}) {
@@ -130,12 +140,7 @@ TEST_F(SaveFailureTest, SaveDocument_fullDisk_isDiskFullWithTheOldFileWhole) {
     if (unshare.isEmpty()) {
         GTEST_SKIP() << "no mount namespace is permitted here, neither as root nor as a user";
     }
-    // A small disk that is filled up behind the record file; the last line hands the file out of it.
-    const QString text = uR"(
-        mount -t tmpfs -o size=96k tmpfs "$2" && cp "$3" "$2/records.xml" || exit 1
-        dd if=/dev/zero of="$2/filler" bs=1k 2>/dev/null
-        "$1" "$2/records.xml" "$4"
-        cat "$2/records.xml" > "$3.after")"_s;
+    const QString text = onSmallDisk(QString(), QString());
     const QString disk = world.file(u"disk"_s);
     ASSERT_TRUE(QDir().mkdir(disk));
     EXPECT_EQ(script(text, {disk, path(), u"grow"_s}, unshare), failed("61-Disk full"));
@@ -156,11 +161,7 @@ TEST_F(SaveFailureTest, SaveDocument_fullDiskThatReservesNoRoom_isDiskFullWithTh
     }
     old = world.read(fileName);
     // Some room is left behind the file, but too little for what it grows by.
-    const QString text = uR"(
-        mount -t tmpfs -o size=96k tmpfs "$2" && cp "$3" "$2/records.xml" || exit 1
-        dd if=/dev/zero of="$2/filler" bs=1k count=48 2>/dev/null
-        "$1" "$2/records.xml" "$4" unreserved
-        cat "$2/records.xml" > "$3.after")"_s;
+    const QString text = onSmallDisk(u"count=48"_s, u"unreserved"_s);
     const QString disk = world.file(u"disk"_s);
     ASSERT_TRUE(QDir().mkdir(disk));
     EXPECT_EQ(script(text, {disk, path(), u"grow"_s}, unshare), failed("61-Disk full"));
