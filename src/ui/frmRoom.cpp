@@ -27,8 +27,6 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -326,8 +324,8 @@ cRoom& frmRoom::room() const {
     return *oRoom;
 }
 
-void frmRoom::mnuFileSave_Click() {
-    routine(u"frmRoom.mnuFileSave_Click", [this] {
+bool frmRoom::save() {
+    return routine(u"frmRoom.mnuFileSave_Click", false, [this](bool& stored) {
         if (Mode != updateMode) {
             if (form_->txtDescription->text().isEmpty()) {
                 Global::service(&Services::prompts)
@@ -343,7 +341,8 @@ void frmRoom::mnuFileSave_Click() {
             const QString key = room().InsertRoom()
                                     ? RecordStore::opened(room().oXMLRooms).GetAttribute(u"ROOMID"_s)
                                     : QString();
-            if (!key.isEmpty()) {
+            stored = !key.isEmpty();
+            if (stored) {
                 room().GetRoom(Conversion::toLong(key));
                 roomStored();
             }
@@ -351,7 +350,8 @@ void frmRoom::mnuFileSave_Click() {
             setCaption(*cmdOK, u"&Save"_s);
         } else {
             LoadRoomFromScreen();
-            if (room().UpdateRoom()) {
+            stored = room().UpdateRoom();
+            if (stored) {
                 roomStored();
             }
         }
@@ -359,6 +359,10 @@ void frmRoom::mnuFileSave_Click() {
         LoadScreenfromRoom();
         analyze();
     });
+}
+
+void frmRoom::mnuFileSave_Click() {
+    save();
 }
 
 void frmRoom::mnuFilePrint_Click() {
@@ -377,13 +381,8 @@ void frmRoom::askToSave() {
         Global::service(&Services::prompts)
             .messageBox(u"Close"_s, u"Would you like to save your changes before closing?"_s,
                         MessageIcon::Question, MessageButtons::YesNo);
-    RoomChanged = answer == MessageAnswer::Yes;
-    if (RoomChanged) {
-        const bool savedBefore = std::exchange(RoomSaved, false);
-        mnuFileSave_Click();
-        RoomChanged = !RoomSaved; // numbers that the save wrote anew on the screen are no reason to ask again
-        RoomSaved = RoomSaved || savedBefore;
-    }
+    // Numbers that a save wrote anew on the screen are no reason to ask again.
+    RoomChanged = answer == MessageAnswer::Yes && !save();
 }
 
 void frmRoom::mnuFileClose_Click() {

@@ -70,6 +70,8 @@ private:
     [[nodiscard]] cRoom& room() const;
 
     /// `cmdOK` does the same.
+    /// Saves what is entered, and shows the advice anew; whether it was stored.
+    bool save();
     void mnuFileSave_Click();
     void mnuFilePrint_Click();
     void mnuFileSaveAs_Click();
