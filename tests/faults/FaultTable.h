@@ -23,6 +23,8 @@ using FaultTable = std::vector<FaultRow>;
 [[nodiscard]] FaultTable readingRows();
 /// The reference tables while advice is worked out.
 [[nodiscard]] FaultTable adviceRows();
+/// The record files and reference tables while reports on people and elements are read.
+[[nodiscard]] FaultTable browsingRows();
 /// The record files while the program writes.
 [[nodiscard]] FaultTable writingRows();
 /// Record files that could not be read, and an entry that must not take their place.

@@ -55,6 +55,10 @@ TEST(FaultTableTest, readingForAdvice) {
     expectAll(adviceRows());
 }
 
+TEST(FaultTableTest, readingInTheBrowsers) {
+    expectAll(browsingRows());
+}
+
 TEST(FaultTableTest, writing) {
     expectAll(writingRows());
 }

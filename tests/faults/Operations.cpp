@@ -1,23 +1,20 @@
 #include "faults/Operations.h"
 
-#include "core/Failure.h"
-#include "core/Global.h"
 #include "faults/FaultStage.h"
+#include "faults/OperationSteps.h"
 #include "support/WindowDriver.h"
 #include "ui/PlanRoom.h"
 #include "ui/PlanView.h"
 #include "ui/widgets/RecordList.h"
 
 #include <QAbstractItemView>
-#include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMouseEvent>
 #include <QRegularExpression>
-#include <QToolButton>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace OperationSteps;
 using namespace WindowDriver;
 
 namespace {
@@ -25,32 +22,9 @@ namespace {
 /// So long that a file that takes it up needs more room on the disk.
 const QString longName = QString(20000, u'n');
 
-/// Types a text over the one in a field.
-void enter(QLineEdit& field, const QString& text) {
-    field.setFocus();
-    field.selectAll();
-    QInputMethodEvent input;
-    input.setCommitString(text);
-    QCoreApplication::sendEvent(&field, &input);
-}
-
-void enter(QWidget& window, const char* name, const QString& text) {
-    enter(control<QLineEdit>(window, name), text);
-}
-
 /// Types a name over the one in a list's field.
 void rename(QWidget& window, const char* list, const QString& name) {
     enter(*control<RecordList>(window, list).lineEdit(), name);
-}
-
-void goToHomes(FaultStage& stage) {
-    QTest::mouseClick(&control<QToolButton>(stage.view(), "LOCATION"), Qt::LeftButton);
-    QApplication::processEvents();
-}
-
-void startAtHomes(FaultStage& stage) {
-    stage.start();
-    goToHomes(stage);
 }
 
 void fillPerson(FaultStage& stage, const QString& name) {
@@ -72,61 +46,11 @@ void chooseSecondPerson(FaultStage& stage) {
     QTest::keyClick(list.view(), Qt::Key_Return);
 }
 
-void selectKitchen(FaultStage& stage) {
-    control<QListWidget>(stage.view(), "lstRooms").setCurrentRow(0);
-}
-
-/// Opens a window from the menu of the advice and does something in it.
-void advise(FaultStage& stage, const char* entry, const std::function<void(QWidget&)>& inside) {
-    whileModal([&] { choose(stage.view(), "mnuAdvice", entry); }, inside);
-}
-
-/// Starts the program and asks for advice, with the fault coming between the two.
-void adviseStruck(FaultStage& stage, const char* entry, const std::function<void(QWidget&)>& inside) {
-    stage.start();
-    stage.strike();
-    advise(stage, entry, inside);
-}
-
-void editKitchen(FaultStage& stage, const std::function<void(QWidget&)>& inside) {
-    selectKitchen(stage);
-    whileModal([&] { choose(stage.view(), "mnuLocations", "mnuLocationsOpenRoom"); }, inside);
-}
-
 /// Enters a new room. The sizes that it gets by default count as a change after the save; the question about
 /// them is answered with No.
 void newRoom(FaultStage& stage, const std::function<void(QWidget&)>& inside) {
     stage.boxes.answer = MessageAnswer::No;
     whileModal([&] { click(stage.view(), "cmdRoom"); }, inside);
-}
-
-void adviseOnDate(QWidget& window) {
-    enter(window, "txtMoveDate", u"6/1/2026"_s);
-    click(window, "cmdAdvise0");
-}
-
-void saveAsHtml(QWidget& window) {
-    choose(window, "mnuFile", "mnuFileSaveAs");
-}
-
-/// A printer that was chosen and then vanished.
-class VanishedPrinter final : public Printer {
-public:
-    bool choose() override { return true; }
-    void print(const PrintableDocument& /*document*/) override {
-        throw Failure{482, QStringLiteral("Printer error")};
-    }
-};
-
-void openHelp(FaultStage& stage, const char* entry) {
-    ScriptedBrowser none;
-    none.associated = false;
-    stage.start();
-    Services services = Global::services();
-    services.browser = &none;
-    Global::use(services);
-    stage.strike();
-    choose(stage.view(), "mnuHelp", entry);
 }
 
 void dragKitchen(FaultStage& stage) {
@@ -214,17 +138,6 @@ const Operation openRoom{"open a room", [](FaultStage& stage) {
                              editKitchen(stage, [](QWidget& window) { click(window, "cmdCancel"); });
                          }};
 
-const Operation reportRooms{"report on the rooms", [](FaultStage& stage) {
-                                adviseStruck(stage, "mnuAdviceRooms",
-                                             [](QWidget& window) { click(window, "cmdOK"); });
-                            }};
-
-const Operation chartYear{"chart a year",
-                          [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceNineKi", &adviseOnDate); }};
-
-const Operation adviseMove{"advise on a move",
-                           [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceMoving", &adviseOnDate); }};
-
 const Operation renamePerson{"rename a person", [](FaultStage& stage) {
                                  stage.start();
                                  rename(stage.view(), "cboProfileName", longName);
@@ -306,57 +219,11 @@ const Operation moveRoom{"move a room", [](FaultStage& stage) {
 
 const Operation setNorth{"set North", [](FaultStage& stage) {
                              startAtHomes(stage);
-                             whileModal(
-                                 [&] { choose(stage.view(), "mnuLocations", "mnuLocationsDirections"); },
-                                 [&](QWidget& window) {
-                                     press(window, Qt::Key_Right);
-                                     stage.strike();
-                                     click(window, "cmdOK");
-                                 });
-                         }};
-
-const Operation saveRooms{"save the report on the rooms",
-                          [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceRooms", &saveAsHtml); }};
-
-const Operation saveRoom{"save the report on a room", [](FaultStage& stage) {
-                             startAtHomes(stage);
-                             stage.strike();
-                             editKitchen(stage, &saveAsHtml);
-                         }};
-
-const Operation saveChart{"save the chart of a year", [](FaultStage& stage) {
-                              adviseStruck(stage, "mnuAdviceNineKi", [](QWidget& window) {
-                                  enter(window, "txtMoveDate", u"6/1/2026"_s);
-                                  saveAsHtml(window);
-                              });
-                          }};
-
-const Operation saveProfile{"save the report on a person",
-                            [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceProfile", &saveAsHtml); }};
-
-const Operation saveElement{"save the report on an element",
-                            [](FaultStage& stage) { adviseStruck(stage, "mnuAdviceElement", &saveAsHtml); }};
-
-const Operation printRooms{"print the report on the rooms", [](FaultStage& stage) {
-                               adviseStruck(stage, "mnuAdviceRooms",
-                                            [](QWidget& window) { click(window, "cmdPrint"); });
-                           }};
-
-const Operation printNowhere{"print where no printer is", [](FaultStage& stage) {
-                                 VanishedPrinter printer;
-                                 stage.start();
-                                 Services services = Global::services();
-                                 services.printer = &printer;
-                                 Global::use(services);
+                             setDirections(stage, [&](QWidget& window) {
+                                 press(window, Qt::Key_Right);
                                  stage.strike();
-                                 advise(stage, "mnuAdviceRooms",
-                                        [](QWidget& window) { click(window, "cmdPrint"); });
-                             }};
-
-const Operation askForQuestions{"open the page of questions",
-                                [](FaultStage& stage) { openHelp(stage, "mnuHelpFaqs"); }};
-
-const Operation askForSupport{"open the page of support",
-                              [](FaultStage& stage) { openHelp(stage, "mnuHelpSupport"); }};
+                                 click(window, "cmdOK");
+                             });
+                         }};
 
 } // namespace Operations

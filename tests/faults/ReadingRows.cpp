@@ -8,13 +8,11 @@ namespace {
 /// have held.
 const std::vector<Fault> unread = {Fault::Missing, Fault::Empty, Fault::Truncated, Fault::Directory,
                                    Fault::NotReadable};
-/// What does not concern somebody who reads.
-const std::vector<Fault> harmless = {Fault::NotWritable, Fault::LockedUp, Fault::FullDisk};
-
-/// The rows of all data files for one operation that nothing of what keeps a writer away disturbs.
+/// The rows of what does not concern somebody who reads. Settings change where the disk has room for it.
 void addHarmless(FaultTable& rows, const Operation& operation, const QStringList& changed = {}) {
     for (const char* file : {"Profiles.xml", "Rooms.xml", "KUAYears.xml"}) {
-        rows.push_back({file, harmless, operation, {}, changed});
+        rows.push_back({file, {Fault::NotWritable, Fault::LockedUp}, operation, {}, changed});
+        rows.push_back({file, {Fault::FullDisk}, operation, {}, {}});
     }
 }
 
@@ -68,8 +66,13 @@ FaultTable readingRows() {
         {"FloorTypes.xml", unread, open, {moveFirst}, settings},
         {"Directions.xml", unread, open, {moveFirst}, settings},
         {"Colors.xml", unread, open, times(9, {find}), settings},
+
+        // The compasses draw what is in memory; Cancel has the home and its rooms read the file anew.
+        {"Rooms.xml", unread, Operations::lookAtHome, {moveFirst, moveFirst}, settings},
+        {"Rooms.xml", unread, Operations::lookAtRoom, {}, settings},
     };
     addHarmless(rows, start);
+    addHarmless(rows, Operations::lookAtHome, settings);
     return rows;
 }
 
@@ -81,10 +84,17 @@ FaultTable adviceRows() {
     const Operation report = Operations::reportRooms;
     const Operation chart = Operations::chartYear;
     const Operation move = Operations::adviseMove;
+    const Operation renovation = Operations::adviseRenovation;
+    const Operation years = Operations::adviseYears;
     const QString noChart =
         QStringLiteral("Nine Ki Chart: Error Reading Directions.  Could not calculate Nine Ki Chart.");
     const QString noMove = QStringLiteral(
         "Directions to Move: Error Reading Directions.  Could not calculate directions to Move.");
+    const QString noAreas = QStringLiteral(
+        "Areas to Renovate: Error Reading Directions.  Could not calculate areas to renovate/redecorate.");
+    constexpr int rated = 5;          // years of the advice on years
+    constexpr int comparedInAll = 24; // sectors of these years that nothing decides before the elements
+    constexpr int compared = 4;       // such sectors of the year that is drawn
     FaultTable rows = {
         {"Rooms.xml", unread, report, times(rooms, {moveFirst, find}), settings},
         {"Colors.xml", unread, report, times(rooms * sectors, {find}), settings},
@@ -104,14 +114,70 @@ FaultTable adviceRows() {
         {"Directions.xml", unread, move, times(drawings, {moveFirst, noMove}), settings},
         {"Elements.xml", unread, move, times(drawings * 4 * 2, {find}), settings},
         {"Colors.xml", unread, move, times(drawings * 4 * 2, {find}), settings},
+
+        // Elements have no part in a renovation.
+        {"KUAYears.xml", unread, renovation, times(drawings * 2, {find}), settings},
+        {"Animals.xml", unread, renovation, times(drawings, {find}), settings},
+        {"Directions.xml", unread, renovation, times(drawings, {moveFirst, noAreas}), settings},
+
+        // Each year is rated; then the first good one is drawn. Where none is, the compass shows the first.
+        {"KUAYears.xml", unread, years, times((rated + drawings) * 2, {find}), settings},
+        {"Animals.xml", unread, years, times(rated + drawings, {find}), settings},
+        {"Directions.xml", unread, years, times(rated + 1, {moveFirst, noMove}), settings},
+        {"Elements.xml", unread, years, times((comparedInAll + compared) * 2, {find}), settings},
+        {"Colors.xml", unread, years, times((comparedInAll + drawings * compared) * 2, {find}), settings},
     };
     // What is in memory, or has no part in it.
     for (const char* file :
          {"Profiles.xml", "Locations.xml", "Floors.xml", "PersonalDirections.xml", "Symbols.xml",
           "TimeOfDay.xml", "Trigrams.xml", "RoomTypes.xml", "FloorTypes.xml"}) {
-        for (const Operation& operation : {report, chart, move}) {
+        for (const Operation& operation : {report, chart, move, renovation, years}) {
             rows.push_back({file, {Fault::Missing}, operation, {}, settings});
         }
     }
+    return rows;
+}
+
+FaultTable browsingRows() {
+    constexpr int read = 2;       // the one on show first, and the next
+    constexpr int sectors = 8;    // of a compass
+    constexpr int withCentre = 9; // its sectors and its centre
+    constexpr int relations = 4;  // elements that an element's report names
+    const QStringList settings = {QStringLiteral("settings/Talivane.ini")};
+    const Operation people = Operations::browsePeople;
+    const Operation elements = Operations::browseElements;
+    FaultTable rows = {
+        // Each person is looked up as at the start. A look-up that fails ends there; what is drawn then has
+        // the colours of nobody.
+        {"Profiles.xml", unread, people, {moveFirst}, settings},
+        {"KUAYears.xml", unread, people, times(read, {find}), settings},
+        {"PersonalDirections.xml", unread, people, times(read, {advFind}), settings},
+        {"Symbols.xml", unread, people, times(read, {find}), settings},
+        {"TimeOfDay.xml", unread, people, times(read, {find}), settings},
+        {"Trigrams.xml", unread, people, times(read, {find}), settings},
+        {"Animals.xml", unread, people, times(read, {find}), settings},
+        // The person's own, and those of the ring of the compass.
+        {"Directions.xml", unread, people, times(read * (1 + sectors), {find}), settings},
+        {"Elements.xml", unread, people, times(read * (1 + sectors + relations), {find}), settings},
+        // The person's own; the compass, its ring and the middle; the chart and its middle; the relations.
+        {"Colors.xml", unread, people,
+         times(read * (1 + withCentre * 2 + withCentre + 1 + relations), {find}), settings},
+
+        {"Elements.xml", unread, elements, {moveFirst}, settings},
+        // Those of the ring of the compass and of the middle.
+        {"Directions.xml", unread, elements, times(read * withCentre, {find}), settings},
+        // The element's own; the compass; its ring and the middle; the relations.
+        {"Colors.xml", unread, elements, times(read * (1 + sectors + withCentre + relations), {find}),
+         settings},
+    };
+    for (const char* file : {"Locations.xml", "Floors.xml", "Rooms.xml", "RoomTypes.xml", "FloorTypes.xml"}) {
+        rows.push_back({file, {Fault::Missing}, people, {}, settings});
+    }
+    for (const char* file : {"Profiles.xml", "KUAYears.xml", "PersonalDirections.xml", "Symbols.xml",
+                             "TimeOfDay.xml", "Trigrams.xml", "Animals.xml"}) {
+        rows.push_back({file, {Fault::Missing}, elements, {}, settings});
+    }
+    addHarmless(rows, people, settings);
+    addHarmless(rows, elements, settings);
     return rows;
 }

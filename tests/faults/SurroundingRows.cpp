@@ -27,20 +27,26 @@ void addHtml(FaultTable& rows, const Operation& operation, const QString& label)
 }
 
 /// A report is printed into a PDF file, where the same holds.
-void addPdf(FaultTable& rows) {
+void addPdf(FaultTable& rows, const Operation& operation, const QString& label) {
     const char* const file = "out/report.pdf";
-    const QString label = QStringLiteral("frmPrintPreview.cmdFilePrint_Click: ");
-    const Operation print = Operations::printRooms;
-    rows.push_back({file, replaced, print, {}, {QString::fromLatin1(file), settings}});
-    rows.push_back({file, locked, print, {label + denied}, {settings}});
-    rows.push_back({file, {Fault::Directory}, print, {label + noFile}, {settings}});
-    rows.push_back({file, {Fault::NoFolder}, print, {label + noPath}, {settings}});
-    rows.push_back({file, {Fault::FullDisk}, print, {label + diskFull}, {}});
-    rows.push_back({file, {Fault::NearlyFull}, print, {label + diskFull}, {settings}});
-    rows.push_back({file,
+    const auto fails = [&](const std::vector<Fault>& faults, const QString& failure,
+                           const QStringList& changed) {
+        rows.push_back({file, faults, operation, {label + QStringLiteral(": ") + failure}, changed});
+    };
+    rows.push_back({file, replaced, operation, {}, {QString::fromLatin1(file), settings}});
+    fails(locked, denied, {settings});
+    fails({Fault::Directory}, noFile, {settings});
+    fails({Fault::NoFolder}, noPath, {settings});
+    fails({Fault::FullDisk}, diskFull, {});
+    fails({Fault::NearlyFull}, diskFull, {settings});
+}
+
+/// A printer that has gone.
+void addNowhere(FaultTable& rows, const Operation& operation, const QString& label) {
+    rows.push_back({"out/report.pdf",
                     {Fault::None},
-                    Operations::printNowhere,
-                    {label + QStringLiteral("482-Printer error")},
+                    operation,
+                    {label + QStringLiteral(": 482-Printer error")},
                     {settings}});
 }
 
@@ -62,6 +68,8 @@ FaultTable surroundingRows() {
     addHtml(rows, Operations::saveRooms, QStringLiteral("cLocation.Analyze Rooms"));
     addHtml(rows, Operations::saveRoom, QStringLiteral("cRoom.Analyze Room"));
     addHtml(rows, Operations::saveChart, QStringLiteral("frmNineKi.GetNineKiChart"));
+    addHtml(rows, Operations::saveMove, QStringLiteral("frmNineKi.GetMoveDirections"));
+    addHtml(rows, Operations::saveYears, QStringLiteral("frmNineKi.GetMoveYears"));
     addHtml(rows, Operations::saveProfile, QStringLiteral("frmRoom.mnuFileSaveAs_Click"));
     addHtml(rows, Operations::saveElement, QStringLiteral("frmElements.mnuFileSaveAs_Click"));
     rows.push_back({"out/report.html",
@@ -69,7 +77,16 @@ FaultTable surroundingRows() {
                     Operations::saveRooms,
                     {QStringLiteral("cLocation.Analyze Rooms: ") + diskFull},
                     {settings}});
-    addPdf(rows);
+    const QString preview = QStringLiteral("frmPrintPreview.cmdFilePrint_Click");
+    const QString plan = QStringLiteral("frmSetDirection.cmdPrint_Click");
+    addPdf(rows, Operations::printRooms, preview);
+    addPdf(rows, Operations::printRoom, QStringLiteral("frmRoom.mnuFilePrint_Click"));
+    addPdf(rows, Operations::printChart, QStringLiteral("frmNineKi.mnuFilePrint_Click"));
+    addPdf(rows, Operations::printProfile, QStringLiteral("frmProfiles.mnuFilePrint_Click"));
+    addPdf(rows, Operations::printElement, QStringLiteral("frmElements.mnuFilePrint_Click"));
+    addPdf(rows, Operations::printHome, plan);
+    addNowhere(rows, Operations::printRoomsNowhere, preview);
+    addNowhere(rows, Operations::printHomeNowhere, plan);
     // Settings fail in silence: what cannot be read is as at the first start, what cannot be written is lost.
     const char* const file = "settings/Talivane.ini";
     const Operation use = Operations::startChooseAndEnd;
