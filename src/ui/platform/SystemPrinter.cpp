@@ -3,6 +3,7 @@
 #include "core/Failure.h"
 #include "core/ReplaceFile.h"
 #include "core/VersionRecord.h"
+#include "ui/platform/PrintQueue.h"
 
 #include <QApplication>
 #include <QDir>
@@ -154,7 +155,7 @@ void SystemPrinter::printOnDevice(const PrintableDocument& document) {
     }
     if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty()) {
         printIntoFile(printer, pages, document);
-    } else if (!printPages(printer, pages, document)) {
+    } else if (!printPages(printer, pages, document) || printQueueRefused()) {
         throw printerError();
     }
 }
