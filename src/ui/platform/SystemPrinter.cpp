@@ -8,10 +8,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QScopeGuard>
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -93,23 +93,42 @@ bool printPages(QPrinter& printer, const std::vector<qint32>& pages, const Print
     return painter.end() && printer.printerState() != QPrinter::Error;
 }
 
-/// Prints into a file of the printer's own first, so that the file which the user named keeps what it held
-/// when the printing fails.
-void printIntoFile(QPrinter& printer, const std::vector<qint32>& pages, const PrintableDocument& document) {
-    const QString named = printer.outputFileName();
-    QTemporaryFile draft(QDir::temp().filePath(QStringLiteral("talivane-XXXXXX.pdf")));
-    bool whole = draft.open();
+/// Names the document for the device and takes its whole paper.
+void prepare(QPrinter& printer, const PrintableDocument& document) {
+    printer.setFullPage(true);
+    printer.setDocName(document.title);
+    printer.setCreator(VersionRecord::title.toString());
+}
+
+/// The pages as a PDF of the device's settings, made in the temporary folder. Fails where they find no room,
+/// of which printing does not always tell. The device itself is spared: one that once met a full disk writes
+/// nothing ever after.
+QByteArray draftOf(const QPrinter& chosen, const std::vector<qint32>& pages,
+                   const PrintableDocument& document) {
+    QTemporaryFile file(QDir::temp().filePath(QStringLiteral("talivane-XXXXXX.pdf")));
+    bool whole = file.open();
     if (whole) {
-        const auto nameBack = qScopeGuard([&] { printer.setOutputFileName(named); });
-        printer.setOutputFileName(draft.fileName());
-        whole = printPages(printer, pages, document);
+        QPrinter draft(QPrinter::HighResolution);
+        draft.setOutputFormat(QPrinter::PdfFormat);
+        draft.setOutputFileName(file.fileName());
+        draft.setResolution(chosen.resolution());
+        draft.setPageLayout(chosen.pageLayout());
+        draft.setColorMode(chosen.colorMode());
+        draft.setPdfVersion(chosen.pdfVersion());
+        prepare(draft, document);
+        whole = printPages(draft, pages, document);
     }
-    QFile printed(draft.fileName());
-    const QByteArray pdf = whole && printed.open(QIODevice::ReadOnly) ? printed.readAll() : QByteArray();
-    if (!pdf.trimmed().endsWith("%%EOF")) { // the printer does not always tell when its file finds no room
+    QFile printed(file.fileName());
+    QByteArray pdf = whole && printed.open(QIODevice::ReadOnly) ? printed.readAll() : QByteArray();
+    if (!pdf.trimmed().endsWith("%%EOF")) {
         throw failure(ErrorNumber::DiskFull);
     }
-    replaceFile(named, pdf);
+    return pdf;
+}
+
+/// A queue gets its pages by way of the temporary folder, and would get the part that has room there.
+bool printsThroughTemporaryFolder(const QPrinter& printer) {
+    return printer.paintEngine()->type() == QPaintEngine::Pdf;
 }
 
 } // namespace
@@ -146,16 +165,20 @@ void SystemPrinter::printOnDevice(const PrintableDocument& document) {
         return;
     }
     QPrinter& printer = device();
-    printer.setFullPage(true);
-    printer.setDocName(document.title);
-    printer.setCreator(VersionRecord::title.toString());
+    prepare(printer, document);
     const std::vector<qint32> pages = pageSequence(printer, document.pageCount);
     if (pages.empty()) {
         return;
     }
     if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty()) {
-        printIntoFile(printer, pages, document);
-    } else if (!printPages(printer, pages, document) || printQueueRefused()) {
+        // The file that the user named keeps what it held when the printing fails.
+        replaceFile(printer.outputFileName(), draftOf(printer, pages, document));
+        return;
+    }
+    if (printsThroughTemporaryFolder(printer)) {
+        draftOf(printer, pages, document);
+    }
+    if (!printPages(printer, pages, document) || printQueueRefused()) {
         throw printerError();
     }
 }

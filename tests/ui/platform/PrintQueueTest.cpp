@@ -3,6 +3,7 @@
 #include "ui/platform/PrintQueue.h"
 
 #include "core/Failure.h"
+#include "support/FileSizeLimit.h"
 #include "ui/platform/SystemPrinter.h"
 
 #include <QFile>
@@ -88,6 +89,7 @@ TEST_F(PrintQueueTest, print_onAQueueThatTakesIt_isSilentAndTheDocumentArrivesWh
     EXPECT_TRUE(pdf.startsWith("%PDF-"));
     EXPECT_TRUE(pdf.trimmed().endsWith("%%EOF"));
     EXPECT_TRUE(pdf.contains("/Count 2"));
+    EXPECT_FALSE(QFile::exists(inFolder(QStringLiteral("document-2.pdf"))));
 }
 
 TEST_F(PrintQueueTest, print_onAQueueThatRejectsJobs_isAPrinterError) {
@@ -103,6 +105,17 @@ TEST_F(PrintQueueTest, print_whereTheServerCannotKeepTheDocument_isAPrinterError
 TEST_F(PrintQueueTest, print_afterTheServerHasGone_isAPrinterError) {
     stopServer();
     EXPECT_EQ(printed(), "482-Printer error");
+}
+
+TEST_F(PrintQueueTest, print_whereTheDocumentFindsNoRoomOnItsWayToTheQueue_isDiskFullAndNothingArrives) {
+    {
+        const FileSizeLimit limit(500);
+        EXPECT_EQ(printed(), "61-Disk full");
+    }
+    EXPECT_FALSE(QFile::exists(inFolder(QStringLiteral("document-1.pdf"))));
+    EXPECT_EQ(printer_.device().outputFormat(), QPrinter::NativeFormat);
+    EXPECT_EQ(printed(), "");
+    EXPECT_TRUE(QFile::exists(inFolder(QStringLiteral("document-1.pdf"))));
 }
 
 TEST_F(PrintQueueTest, print_afterARefusal_printsOnceTheQueueTakesJobsAgain) {

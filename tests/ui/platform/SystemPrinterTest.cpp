@@ -182,4 +182,20 @@ TEST_F(SystemPrinterTest, print_thatFindsNoRoom_isDiskFullAndKeepsWhatStandsTher
     ASSERT_TRUE(earlier.open(QIODevice::ReadOnly));
     EXPECT_EQ(earlier.readAll().toStdString(), "an earlier report");
 }
+
+TEST_F(SystemPrinterTest, print_afterADiskWasFull_printsWhereThereIsRoom) {
+    PrintableDocument large = document(3);
+    large.paint = [](QPainter& painter, qint32 page) {
+        constexpr int spots = 5000; // more than is kept back in memory before it is written
+        for (int spot = 0; spot < spots; ++spot) {
+            painter.drawLine(spot, (spot * spot + page) % 9973, spot * 7 % 9967, spot * spot % 9949);
+        }
+    };
+    {
+        const FileSizeLimit limit(500);
+        EXPECT_THROW(printer_.printOnDevice(large), Failure);
+    }
+    printer_.printOnDevice(large);
+    EXPECT_EQ(pagesInFile(), 3);
+}
 #endif
