@@ -4,6 +4,7 @@
 #include "ui/FeetInches.h"
 #include "ui/PlanView.h"
 #include "ui/widgets/AccessibleRole.h"
+#include "ui/widgets/PlainToolTip.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -98,7 +99,7 @@ bool PlanRoom::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         // A name that can be read needs no second showing.
         const QPoint at = static_cast<QHelpEvent*>(event)->globalPos();
-        QToolTip::showText(at, textFits() ? QString() : description_, this);
+        QToolTip::showText(at, textFits() ? QString() : plainToolTip(description_), this);
         return true;
     }
     return QWidget::event(event);
@@ -122,6 +123,11 @@ void PlanRoom::paintEvent(QPaintEvent* /*event*/) {
     const int outline = selected_ ? 2 : 1;
     for (int inset = 0; inset < outline; ++inset) {
         painter.drawRect(rect().adjusted(inset, inset, -1 - inset, -1 - inset));
+    }
+    if (hasFocus()) { // so that the keyboard's user sees that the arrow keys move the room now
+        constexpr int within = 3;
+        painter.setPen(QPen(ink, 1, Qt::DashLine));
+        painter.drawRect(rect().adjusted(within, within, -1 - within, -1 - within));
     }
 }
 
@@ -154,6 +160,11 @@ void PlanRoom::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void PlanRoom::keyPressEvent(QKeyEvent* event) {
+    // The system tells of the menu key by itself, but not of the other way to press it.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        Q_EMIT menuKeyPressed(mapToGlobal(rect().center()));
+        return;
+    }
     event->ignore();
     Q_EMIT keyDown(event);
 }

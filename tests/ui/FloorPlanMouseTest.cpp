@@ -3,6 +3,7 @@
 #include "ui/FloorPlan.h"
 #include "ui/LocationPaneTest.h"
 #include "ui/widgets/ElidedLabel.h"
+#include "ui/widgets/PlainToolTip.h"
 
 #include <QHelpEvent>
 #include <QMenu>
@@ -163,6 +164,27 @@ TEST_F(FloorPlanMouseTest, menuKey_opensTheMenuOverTheRoom) {
     menu.close();
 }
 
+TEST_F(FloorPlanMouseTest, shiftAndF10_openTheMenuOverTheRoom) {
+    list().setCurrentRow(0);
+    QTest::keyClick(&room(0), Qt::Key_F10);
+    auto& menu = control<QMenu>(*view_, "mnuLocations");
+    EXPECT_FALSE(menu.isVisible());
+    QTest::keyClick(&room(0), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(menu.isVisible());
+    menu.close();
+}
+
+TEST_F(FloorPlanMouseTest, roomUnderTheKeyboard_looksUnlikeOneThatIsOnlySelected) {
+    list().setFocus();
+    list().setCurrentRow(0);
+    const QImage selectedOnly = room(0).grab().toImage();
+    room(0).setFocus();
+    ASSERT_TRUE(room(0).hasFocus());
+    EXPECT_NE(room(0).grab().toImage(), selectedOnly);
+    list().setFocus();
+    EXPECT_EQ(room(0).grab().toImage(), selectedOnly);
+}
+
 TEST_F(FloorPlanMouseTest, doubleClick_opensTheRoom) {
     whileModal(
         [this] { QTest::mouseDClick(&room(1), Qt::LeftButton); },
@@ -243,9 +265,12 @@ TEST_F(FloorPlanMouseTest, toolTip_isTheNameOfARoomTooSmallToShowIt) {
     };
     EXPECT_EQ(tip(), QString());
     room(0).resize(room(0).width(), room(0).fontMetrics().height() + 8); // one line of two
-    EXPECT_EQ(tip(), u"Wine Cellar"_s);
+    EXPECT_EQ(tip(), plainToolTip(u"Wine Cellar"_s));
     room(0).resize(room(0).fontMetrics().horizontalAdvance(u"Cell"_s), 200);
-    EXPECT_EQ(tip(), u"Wine Cellar"_s);
+    EXPECT_EQ(tip(), plainToolTip(u"Wine Cellar"_s));
+    room(0).setDescription(u"<img src='cellar.png'><b>Wine</b>"_s);
+    EXPECT_EQ(tip(), u"<span>&lt;img src='cellar.png'&gt;&lt;b&gt;Wine&lt;/b&gt;</span>"_s)
+        << "a name is no markup";
 }
 
 TEST_F(FloorPlanMouseTest, secondPressOfTheRightButton_isAPressLikeTheFirst) {

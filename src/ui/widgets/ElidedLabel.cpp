@@ -1,5 +1,7 @@
 #include "ui/widgets/ElidedLabel.h"
 
+#include "ui/widgets/PlainToolTip.h"
+
 #include <QEvent>
 #include <QHelpEvent>
 #include <QPainter>
@@ -80,9 +82,7 @@ void ElidedLabel::changeEvent(QEvent* event) {
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shownText() != text_) {
-        // As rich text, which wraps where it is long.
-        const QString tip = QStringLiteral("<span>%1</span>").arg(text_.toHtmlEscaped());
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text_), this);
         return true;
     }
     return QFrame::event(event);
