@@ -41,7 +41,6 @@ private:
     QLayout* buildMonthAndYear();
     DayGrid* buildDays();
     QLayout* buildButtons();
-    void tellParent(void (clsCalendar::*handler)());
     void lblDay_Click(qint16 index);
     void cmdOK_Click();
     void cmdCancel_Click();
