@@ -3,7 +3,8 @@ compares the texts in it with those that were written.
 
 Usage: check_html.py PROGRAM, where PROGRAM writes NAME.html and NAME.json files into the folder it is given.
 Or:    check_html.py REPORTS TRANSCRIPT DATA, where REPORTS writes the room reports of the sample household in
-       DATA as HTML, and TRANSCRIPT prints the same builder's calls.
+       DATA as HTML, and TRANSCRIPT prints the same builder's calls. Then once more with markup and scripts in
+       every field that a user types: the tags must be the same, as all of it is text.
 """
 
 import json
@@ -14,6 +15,7 @@ import subprocess
 import sys
 import tempfile
 import xml.etree.ElementTree
+import xml.sax.saxutils
 
 import html5lib
 
@@ -71,18 +73,52 @@ def check_samples(program, folder):
         assert len(body.findall(HTML + "section")) == expected["pages"], f"{page.name}: pages"
 
 
+# What a user types letter by letter; everything else is chosen from lists or held to be a number.
+TYPED = {"Profiles": "PROFILENAME", "Locations": "DESCRIPTION", "Floors": "DESCRIPTION", "Rooms": "DESCRIPTION"}
+MARKUP = """</h1></p></svg><script>x()</script><img src="http://host.invalid/i" onerror='x()'><!--]]>&lt;b&gt;"""
+
+
+def tags_of(body):
+    """Every tag with its attributes; their values but for the drawings' names, which quote what was typed."""
+    return [
+        (tag.tag, sorted((name, value) for name, value in tag.attrib.items() if name != "aria-label"))
+        for tag in body.iter()
+    ]
+
+
+def type_markup(folder):
+    """Lets each name of the records begin with markup; the rest of it stays, as rooms are told apart by it."""
+    typed = xml.sax.saxutils.escape(MARKUP, {'"': "&quot;"})
+    for file, field in TYPED.items():
+        path = folder / f"{file}.xml"
+        records = path.read_text("utf-8")
+        records, count = re.subn(rf'(<z:row\b[^>]*\s{field}=")', lambda found: found[1] + typed, records)
+        assert count > 0, f"{file}: no {field}"
+        path.write_text(records, "utf-8")
+
+
 def check_household(reports, transcript, data, folder):
     for source in (data, data / "sample"):
         for file in source.glob("*.xml"):
             shutil.copy(file, folder)
-    subprocess.run([reports, folder, folder / "out"], check=True)
-    (page,) = (folder / "out").glob("*.html")
+    plain = write_and_compare(reports, transcript, folder, folder / "plain")
+    type_markup(folder)
+    typed = write_and_compare(reports, transcript, folder, folder / "typed")
+    assert MARKUP in text_of(typed), "what was typed is not in the report"
+    for before, after in zip(tags_of(plain), tags_of(typed)):
+        assert before == after, f"{before} became {after}"
+    assert len(tags_of(typed)) == len(tags_of(plain))
+
+
+def write_and_compare(reports, transcript, folder, out):
+    subprocess.run([reports, folder, out], check=True)
+    (page,) = out.glob("*.html")
     calls = subprocess.run(
         [transcript, folder, "rooms", "1", "1"], check=True, capture_output=True, encoding="utf-8"
     ).stdout.splitlines()
     texts = [call["args"][0] for call in map(json.loads, calls) if call["op"] in ("Write", "TextBox")]
     assert len(texts) > 100, f"only {len(texts)} texts in the transcript"
-    compare(page, texts)
+    return compare(page, texts)
 
 
 def main():
