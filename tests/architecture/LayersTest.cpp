@@ -81,6 +81,17 @@ TEST(Layers, noFileIncludesALayerThatItsRowDoesNotName) {
     }
 }
 
+TEST(Layers, nothingReadsFromTheNetwork) {
+    // A browser is handed an address; nothing here opens a connection, or links what could.
+    static const QRegularExpression network(QStringLiteral(
+        "<Q(Network|Tcp|Udp|Ssl|WebSocket|Http|Dns|LocalSocket|AbstractSocket)|<sys/socket\\.h>|<curl/|"
+        "QWebEngine"));
+    for (const QString& file : sourceFiles()) {
+        EXPECT_FALSE(contentOf(root + QStringLiteral("/src/") + file).contains(network)) << qPrintable(file);
+    }
+    EXPECT_FALSE(contentOf(root + QStringLiteral("/CMakeLists.txt")).contains(QStringLiteral("Network")));
+}
+
 TEST(Layers, onlyThePromptsNameTheToolkitsBoxes) {
     static const QRegularExpression boxes(QStringLiteral("QMessageBox|QInputDialog"));
     for (const QString& file : sourceFiles()) {
