@@ -1,6 +1,7 @@
 // Every window without a mouse and without eyes: what a screen reader is told, what the keyboard reaches.
 
 #include "pictures/WindowTour.h"
+#include "ui/BoxTour.h"
 #include "ui/frmViewTest.h"
 
 #include <QAbstractButton>
@@ -23,7 +24,7 @@ const std::set<QString> windows = {
     QStringLiteral("frmView"),         QStringLiteral("frmRoom"),     QStringLiteral("frmProfiles"),
     QStringLiteral("frmElements"),     QStringLiteral("frmNineKi"),   QStringLiteral("frmRoomDirection"),
     QStringLiteral("frmSetDirection"), QStringLiteral("frmCalendar"), QStringLiteral("frmAbout"),
-    QStringLiteral("frmPrintPreview"),
+    QStringLiteral("frmPrintPreview"), QStringLiteral("messageBox"),  QStringLiteral("inputBox"),
 };
 
 class AccessibilityTest : public frmViewTest {
@@ -38,11 +39,13 @@ protected:
                                      QStringLiteral("Would you like to save your changes before closing?"),
                                      MessageIcon::Question, MessageAnswer::No);
         std::set<QString> seen;
-        visitWindows(*view_, [&](QWidget& window, const QString& name) {
+        const auto visitOne = [&](QWidget& window, const QString& name) {
             seen.insert(window.objectName());
             SCOPED_TRACE(qPrintable(window.objectName() + QStringLiteral(" as ") + name));
             look(window, name);
-        });
+        };
+        visitWindows(*view_, visitOne);
+        visitBoxes([&](QWidget& box) { visitOne(box, box.windowTitle()); });
         EXPECT_EQ(seen, windows);
     }
 };

@@ -1,13 +1,15 @@
-// Whether every text of every window can be told from what it stands on, in the light theme and in the dark
-// one.
+// Whether every text of every window, of its menus, of the boxes and of tool tips can be told from what it
+// stands on, in the light theme and in the dark one.
 
 #include "pictures/DarkPalette.h"
 #include "pictures/WindowTour.h"
 #include "support/TextColors.h"
+#include "ui/BoxTour.h"
 #include "ui/frmViewTest.h"
 #include "ui/widgets/ColorContrast.h"
 
 #include <QStyleFactory>
+#include <QToolTip>
 
 namespace {
 
@@ -27,12 +29,50 @@ protected:
         Global::Main();
         visitWindows(*view_, [](QWidget& window, const QString& name) {
             SCOPED_TRACE(qPrintable(name));
-            expectLegibleWindow(window);
+            expectLegibleTexts(window, 3);
+            for (auto* menu : window.findChildren<QMenu*>()) {
+                expectLegibleMenu(*menu);
+            }
         });
+        visitBoxes([](QWidget& box) { expectLegibleTexts(box, 2); });
+        expectLegibleToolTip();
     }
 
 private:
-    static void expectLegibleWindow(QWidget& window) {
+    /// A menu as it opens, with one of its entries under the mouse.
+    static void expectLegibleMenu(QMenu& menu) {
+        SCOPED_TRACE(qPrintable(menu.objectName()));
+        menu.resize(menu.sizeHint());
+        for (QAction* entry : menu.actions()) {
+            if (entry->isEnabled() && !entry->isSeparator()) {
+                menu.setActiveAction(entry);
+                expectLegibleTexts(menu, 1);
+                return;
+            }
+        }
+    }
+    void expectLegibleToolTip() {
+        QToolTip::showText(view_->mapToGlobal(QPoint(9, 9)), QStringLiteral("What a tool tip tells"),
+                           view_.get());
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == u"qtooltip_label" && window->isVisible()) {
+                expectLegibleTexts(*window, 1);
+                QToolTip::hideText();
+                return;
+            }
+        }
+        ADD_FAILURE() << "no tool tip came";
+    }
+    /// Whether what is painted there cannot be used now, and so may stand back.
+    static bool isOff(const QWidget& window, QPoint place) {
+        if (const auto* menu = qobject_cast<const QMenu*>(&window); menu != nullptr) {
+            const QAction* entry = menu->actionAt(place);
+            return entry != nullptr && !entry->isEnabled();
+        }
+        const QWidget* owner = window.childAt(place);
+        return owner != nullptr && !owner->isEnabled();
+    }
+    static void expectLegibleTexts(QWidget& window, int atLeast) {
         constexpr double least = 4.5;
         constexpr int around = 4; // so that a single letter does not hide what it stands on
         QImage picture(window.size(), QImage::Format_RGB32);
@@ -40,19 +80,16 @@ private:
         int texts = 0;
         for (const PaintedText& text : TextRecorder::textsOf(window)) {
             const QRect place = text.place.toAlignedRect() & picture.rect();
-            const QWidget* owner = window.childAt(place.center());
-            if (place.isEmpty() || text.text.trimmed().isEmpty() ||
-                (owner != nullptr && !owner->isEnabled())) {
-                continue; // what cannot be used now may stand back
+            if (place.isEmpty() || text.text.trimmed().isEmpty() || isOff(window, place.center())) {
+                continue;
             }
             ++texts;
             const QColor ground = groundOf(picture, place.adjusted(-around, 0, around, 0) & picture.rect());
             EXPECT_GE(ColorContrast::ratio(text.color, ground), least)
                 << qPrintable(text.text) << ": " << qPrintable(text.color.name()) << " on "
-                << qPrintable(ground.name()) << " in "
-                << (owner == nullptr ? "" : qPrintable(owner->objectName()));
+                << qPrintable(ground.name()) << " at " << place.x() << ", " << place.y();
         }
-        EXPECT_GE(texts, 3);
+        EXPECT_GE(texts, atLeast);
     }
 };
 

@@ -21,6 +21,21 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
     return QMessageBox::Information;
 }
 
+/// What a screen reader says where the eye sees the box's picture.
+QString nameOf(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Critical:
+        return QStringLiteral("Error");
+    case MessageIcon::Question:
+        return QStringLiteral("Question");
+    case MessageIcon::Exclamation:
+        return QStringLiteral("Warning");
+    case MessageIcon::Information:
+        break;
+    }
+    return QStringLiteral("Information");
+}
+
 /// The boxes' texts separate lines by CR LF, widgets by LF alone.
 QString withPlainLineBreaks(QString text) {
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
@@ -36,6 +51,10 @@ MessageAnswer DialogPrompts::messageBox(const QString& title, const QString& tex
     box.setTextFormat(Qt::PlainText);
     box.setText(withPlainLineBreaks(text));
     box.setIcon(iconOf(icon));
+    if (auto* picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+        picture != nullptr) {
+        picture->setAccessibleName(nameOf(icon));
+    }
     if (buttons == MessageButtons::YesNo) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton(QMessageBox::No);

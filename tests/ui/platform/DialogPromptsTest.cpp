@@ -64,6 +64,29 @@ TEST_F(DialogPromptsTest, question_showsTitleAndPlainText) {
     });
 }
 
+TEST_F(DialogPromptsTest, pictureOfABox_isNamedForScreenReaders) {
+    const std::pair<MessageIcon, const char*> names[] = {
+        {MessageIcon::Critical, "Error"},
+        {MessageIcon::Question, "Question"},
+        {MessageIcon::Exclamation, "Warning"},
+        {MessageIcon::Information, "Information"},
+    };
+    for (const auto& [icon, name] : names) {
+        WindowDriver::whileModal(
+            [this, icon = icon] {
+                prompts_.messageBox(QStringLiteral("Title"), QStringLiteral("Text"), icon,
+                                    MessageButtons::Ok);
+            },
+            [name = name](QWidget& box) {
+                const auto labels = box.findChildren<QLabel*>();
+                const auto picture = std::ranges::find_if(
+                    labels, [](const QLabel* label) { return !label->pixmap(Qt::ReturnByValue).isNull(); });
+                ASSERT_NE(picture, labels.end());
+                EXPECT_EQ((*picture)->accessibleName(), QLatin1String(name));
+            });
+    }
+}
+
 TEST_F(DialogPromptsTest, question_yesIsPressed_answersYes) {
     EXPECT_EQ(ask([](QWidget& box) { QTest::mouseClick(button(box, "Yes"), Qt::LeftButton); }),
               MessageAnswer::Yes);
