@@ -16,6 +16,17 @@ void addHarmless(FaultTable& rows, const Operation& operation, const QStringList
     }
 }
 
+/// The rows of the files that advice needs no more, as they are in memory or have no part in it.
+void addUninvolved(FaultTable& rows, const std::vector<Operation>& advice, const QStringList& changed) {
+    for (const char* file :
+         {"Profiles.xml", "Locations.xml", "Floors.xml", "PersonalDirections.xml", "Symbols.xml",
+          "TimeOfDay.xml", "Trigrams.xml", "RoomTypes.xml", "FloorTypes.xml"}) {
+        for (const Operation& operation : advice) {
+            rows.push_back({file, {Fault::Missing}, operation, {}, changed});
+        }
+    }
+}
+
 } // namespace
 
 FaultTable readingRows() {
@@ -127,14 +138,7 @@ FaultTable adviceRows() {
         {"Elements.xml", unread, years, times((comparedInAll + compared) * 2, {find}), settings},
         {"Colors.xml", unread, years, times((comparedInAll + drawings * compared) * 2, {find}), settings},
     };
-    // What is in memory, or has no part in it.
-    for (const char* file :
-         {"Profiles.xml", "Locations.xml", "Floors.xml", "PersonalDirections.xml", "Symbols.xml",
-          "TimeOfDay.xml", "Trigrams.xml", "RoomTypes.xml", "FloorTypes.xml"}) {
-        for (const Operation& operation : {report, chart, move, renovation, years}) {
-            rows.push_back({file, {Fault::Missing}, operation, {}, settings});
-        }
-    }
+    addUninvolved(rows, {report, chart, move, renovation, years}, settings);
     return rows;
 }
 

@@ -56,10 +56,11 @@ void add(FaultTable& rows, const Writing& writing) {
     }
 }
 
-} // namespace
+/// What follows where the editor's advice and the plan behind it read the rooms anew.
+const QStringList noAdvice = QStringList{moveFirst, find} + noRooms;
 
-FaultTable writingRows() {
-    FaultTable rows;
+/// Operations that write one file.
+void addSingleFiles(FaultTable& rows) {
     add(rows, {.file = "Profiles.xml", .operation = Operations::renamePerson, .grows = true});
     add(rows,
         {.file = "Profiles.xml", .operation = Operations::addPerson, .grows = true, .others = {settings}});
@@ -74,8 +75,6 @@ FaultTable writingRows() {
                .last = {QStringLiteral("New Floor: A Floor Named Third Floor has been added.")}});
     add(rows, {.file = "Rooms.xml", .operation = Operations::moveRoom});
     add(rows, {.file = "Rooms.xml", .operation = Operations::removeRoom, .whenUnreadable = noRooms});
-    // The editor's advice and the plan behind it read the file anew.
-    const QStringList noAdvice = QStringList{moveFirst, find} + noRooms;
     for (const Operation& operation : {Operations::addRoom, Operations::changeRoom}) {
         add(rows, {.file = "Rooms.xml",
                    .operation = operation,
@@ -83,7 +82,10 @@ FaultTable writingRows() {
                    .others = {settings},
                    .whenUnreadable = noAdvice});
     }
+}
 
+/// Operations that write several files.
+void addSeveralFiles(FaultTable& rows) {
     // A new home takes up two files, the end of a home three; each is saved whatever became of the others.
     const std::vector<Fault> locked = {Fault::NotWritable, Fault::LockedUp};
     rows.push_back({"Floors.xml", locked, Operations::addHome, {save(denied)}, {locations, settings}});
@@ -113,8 +115,10 @@ FaultTable writingRows() {
     rows.push_back({"Locations.xml", locked, elsewhere, {save(denied)}, {}});
     rows.push_back({"Rooms.xml", harmless, elsewhere, {}, {::rooms}});
     rows.push_back({"Rooms.xml", locked, elsewhere, {save(denied), save(denied)}, {}});
+}
 
-    // The folder has gone, with all its files.
+/// The folder has gone, with all its files.
+void addLostFolder(FaultTable& rows) {
     const std::vector<Fault> gone = {Fault::NoFolder};
     const QStringList lost = {save(noPath)};
     // A person's year is looked up before the save, the relations of the element whenever a person is shown.
@@ -130,6 +134,15 @@ FaultTable writingRows() {
     rows.push_back({"Rooms.xml", gone, Operations::removeRoom, lost + noRooms, {}});
     // The report's page has the colour of a direction.
     rows.push_back({"Rooms.xml", gone, Operations::addRoom, lost + QStringList{find} + noAdvice, {settings}});
+}
+
+} // namespace
+
+FaultTable writingRows() {
+    FaultTable rows;
+    addSingleFiles(rows);
+    addSeveralFiles(rows);
+    addLostFolder(rows);
     return rows;
 }
 
