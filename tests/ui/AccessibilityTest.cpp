@@ -2,6 +2,7 @@
 
 #include "pictures/WindowTour.h"
 #include "ui/BoxTour.h"
+#include "ui/StateTour.h"
 #include "ui/frmViewTest.h"
 
 #include <QAbstractButton>
@@ -45,6 +46,7 @@ protected:
             look(window, name);
         };
         visitWindows(*view_, visitOne);
+        visitStates(*view_, visitOne);
         visitBoxes([&](QWidget& box) { visitOne(box, box.windowTitle()); });
         EXPECT_EQ(seen, windows);
     }

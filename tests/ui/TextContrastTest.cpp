@@ -5,6 +5,7 @@
 #include "pictures/WindowTour.h"
 #include "support/TextColors.h"
 #include "ui/BoxTour.h"
+#include "ui/StateTour.h"
 #include "ui/frmViewTest.h"
 #include "ui/widgets/ColorContrast.h"
 
@@ -27,13 +28,15 @@ protected:
                                      QStringLiteral("Would you like to save your changes before closing?"),
                                      MessageIcon::Question, MessageAnswer::No);
         Global::Main();
-        visitWindows(*view_, [](QWidget& window, const QString& name) {
+        const auto look = [](QWidget& window, const QString& name) {
             SCOPED_TRACE(qPrintable(name));
             expectLegibleTexts(window, 3);
             for (auto* menu : window.findChildren<QMenu*>()) {
                 expectLegibleMenu(*menu);
             }
-        });
+        };
+        visitWindows(*view_, look);
+        visitStates(*view_, look);
         visitBoxes([](QWidget& box) { expectLegibleTexts(box, 2); });
         expectLegibleToolTip();
     }
