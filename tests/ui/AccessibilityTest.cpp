@@ -1,7 +1,6 @@
 // Every window without a mouse and without eyes: what a screen reader is told, what the keyboard reaches.
 
 #include "pictures/WindowTour.h"
-#include "ui/BoxTour.h"
 #include "ui/StateTour.h"
 #include "ui/frmViewTest.h"
 
@@ -47,7 +46,7 @@ protected:
         };
         visitWindows(*view_, visitOne);
         visitStates(*view_, visitOne);
-        visitBoxes([&](QWidget& box) { visitOne(box, box.windowTitle()); });
+        visitBoxes(visitOne);
         EXPECT_EQ(seen, windows);
     }
 };

@@ -4,7 +4,6 @@
 #include "pictures/DarkPalette.h"
 #include "pictures/WindowTour.h"
 #include "support/TextColors.h"
-#include "ui/BoxTour.h"
 #include "ui/StateTour.h"
 #include "ui/frmViewTest.h"
 #include "ui/widgets/ColorContrast.h"
@@ -37,7 +36,7 @@ protected:
         };
         visitWindows(*view_, look);
         visitStates(*view_, look);
-        visitBoxes([](QWidget& box) { expectLegibleTexts(box, 2); });
+        visitBoxes([](QWidget& box, const QString& /*name*/) { expectLegibleTexts(box, 2); });
         expectLegibleToolTip();
     }
 

@@ -1,6 +1,7 @@
 #include "pictures/WindowTour.h"
 
 #include "pictures/PictureFile.h"
+#include "ui/platform/DialogPrompts.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -78,24 +79,33 @@ void perform(QWidget& window, const QString& step) {
     }
 }
 
+/// Makes a step, and hands over the modal window that it opens, if it opens one other than where it was made.
+/// The window is closed afterwards. Returns whether one came.
+bool handOver(const QWidget* window, const QString& step, const std::function<void()>& make,
+              const std::function<void(QWidget&)>& opened) {
+    bool came = false;
+    QTimer watch; // gone again where the step opens no window
+    watch.setSingleShot(true);
+    watch.callOnTimeout([&] {
+        QWidget* next = QApplication::activeModalWidget();
+        if (next == nullptr || next == window) {
+            stop(QStringLiteral("no window came for ") + step);
+        }
+        came = true;
+        opened(*next);
+        next->close();
+    });
+    watch.start(0);
+    make();
+    return came;
+}
+
 void walk(QWidget& window, QStringList steps, const std::function<void(QWidget&)>& visit) {
     while (!steps.isEmpty()) {
         const QString step = steps.takeFirst();
-        bool opened = false;
-        QTimer watch; // gone again where the step opens no window
-        watch.setSingleShot(true);
-        watch.callOnTimeout([&] {
-            QWidget* next = QApplication::activeModalWidget();
-            if (next == nullptr || next == &window) {
-                stop(QStringLiteral("no window came for ") + step);
-            }
-            opened = true;
-            walk(*next, steps, visit);
-            next->close();
-        });
-        watch.start(0);
-        perform(window, step);
-        if (opened) {
+        if (handOver(
+                &window, step, [&] { perform(window, step); },
+                [&](QWidget& next) { walk(next, steps, visit); })) {
             return;
         }
     }
@@ -109,4 +119,31 @@ void visitWindows(QWidget& mainWindow, const std::function<void(QWidget&, const 
     for (const WindowStop& next : windowStops()) {
         walk(mainWindow, next.steps, [&](QWidget& window) { visit(window, QString::fromLatin1(next.name)); });
     }
+}
+
+void visitBoxes(const std::function<void(QWidget&, const QString&)>& visit) {
+    DialogPrompts prompts;
+    const auto show = [&](const QString& name, const std::function<void()>& ask) {
+        if (!handOver(nullptr, name, ask, [&](QWidget& box) {
+                QApplication::processEvents();
+                visit(box, name);
+            })) {
+            stop(QStringLiteral("no box came as ") + name);
+        }
+    };
+    show(QStringLiteral("box-question"), [&] {
+        prompts.messageBox(QStringLiteral("Delete Floor"),
+                           QStringLiteral("Are you sure that you want to delete floor: Upper Floor?"),
+                           MessageIcon::Question, MessageButtons::YesNo);
+    });
+    show(QStringLiteral("box-failure"), [&] {
+        prompts.messageBox(QStringLiteral("cXMLHandler.Save Document"),
+                           QStringLiteral("cXMLHandler.Save Document\r\n61-Disk full"), MessageIcon::Critical,
+                           MessageButtons::Ok);
+    });
+    show(QStringLiteral("box-input"), [&] {
+        prompts.inputBox(QStringLiteral("Rename Floor"),
+                         QStringLiteral("Please Enter a new name for this floor."),
+                         QStringLiteral("Upper Floor"));
+    });
 }

@@ -11,3 +11,7 @@ class QWidget;
 /// afterwards. Ends the program with a message where a stop cannot be reached.
 void visitWindows(QWidget& mainWindow,
                   const std::function<void(QWidget& window, const QString& name)>& visit);
+
+/// Opens each kind of box that asks or tells in turn, with words that the program says, and hands it over in
+/// the same way.
+void visitBoxes(const std::function<void(QWidget& box, const QString& name)>& visit);
