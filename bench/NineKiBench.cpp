@@ -12,16 +12,11 @@
 
 namespace {
 
-class FixedDay final : public Clock {
-public:
-    [[nodiscard]] QDate today() const override { return {2024, 7, 1}; }
-};
-
 /// A report of the Nine Ki window on the real page model. Each calculation reads its catalogues anew.
 template<class Report>
 void nineKiReport(benchmark::State& state, Report&& write) {
     const BenchWorld world(1);
-    FixedDay day;
+    FixedClock day(QDate(2024, 7, 1));
     Services services = Global::services();
     services.clock = &day;
     Global::use(services);

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "core/Clock.h"
 #include "core/Services.h"
 #include "ui/frmView.h"
 #include "ui/platform/DialogPrompts.h"
 #include "ui/platform/QSettingsStore.h"
 #include "ui/platform/SystemBrowser.h"
-#include "ui/platform/SystemClock.h"
 #include "ui/platform/SystemPrinter.h"
 
 /// The program put together: the real implementation of every seam, and the main window.

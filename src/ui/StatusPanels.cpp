@@ -6,7 +6,6 @@
 #include "ui/widgets/ElidedLabel.h"
 
 #include <QPainter>
-#include <QTime>
 
 namespace {
 
@@ -82,12 +81,12 @@ QString StatusPanels::panel(const QString& key) const {
 
 void StatusPanels::showNow() {
     constexpr int minute = 60 * 1000;
-    const QTime now = QTime::currentTime();
     passOver([&] {
-        setPanel(QStringLiteral("Date"), Conversion::shortDate(Global::service(&Services::clock).today()));
-        setPanel(QStringLiteral("Time"), timeText(Global::services().locale, now));
+        const QDateTime now = Global::service(&Services::clock).now();
+        setPanel(QStringLiteral("Date"), Conversion::shortDate(now.date()));
+        setPanel(QStringLiteral("Time"), timeText(Global::services().locale, now.time()));
+        untilNextMinute_.start(minute - now.time().msecsSinceStartOfDay() % minute);
     });
-    untilNextMinute_.start(minute - now.msecsSinceStartOfDay() % minute);
 }
 
 void StatusPanels::showEvent(QShowEvent* event) {

@@ -11,16 +11,6 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A clock that stands where it was set.
-class FixedClock final : public Clock {
-public:
-    void setToday(QDate date) { today_ = date; }
-    [[nodiscard]] QDate today() const override { return today_; }
-
-private:
-    QDate today_ = QDate(2026, 2, 14);
-};
-
 /// Stands in for the main window and notes what was asked of it.
 class ScriptedMainWindow final : public MainWindow {
 public:

@@ -1,5 +1,6 @@
 #include "app/Program.h"
 #include "app/Startup.h"
+#include "core/Clock.h"
 #include "core/Global.h"
 #include "core/Prompts.h"
 #include "core/clsRegistry.h"
@@ -117,9 +118,11 @@ int main(int argc, char** argv) {
     copyFiles(data + QStringLiteral("/sample"), records.path());
 
     UnaskedPrompts prompts;
+    FixedClock clock;
     Program program(records.filePath(QStringLiteral("settings.ini")));
     Services services = program.services(records.path());
     services.prompts = &prompts;
+    services.clock = &clock;
     services.locale = QLocale(QLocale::English, QLocale::UnitedStates);
     Global::use(services);
     for (const QString& name : {QStringLiteral("LastLocation"), QStringLiteral("LastProfile")}) {
@@ -130,9 +133,11 @@ int main(int argc, char** argv) {
     const bool isLight = mode == modes.begin();
     const QString suffix = isLight ? QString() : u'-' + wanted;
     QApplication::processEvents();
-    visitWindows(program.mainWindow, [&](QWidget& window, const QString& name) {
+    const auto save = [&](QWidget& window, const QString& name) {
         savePicture(window.grab().toImage(), folder + u'/' + name + suffix + QStringLiteral(".png"));
-    });
+    };
+    visitWindows(program.mainWindow, save);
+    visitBoxes(save);
     drawContactSheet(folder, suffix);
     if (isLight) {
         const QString pages = folder + QStringLiteral("/pages");

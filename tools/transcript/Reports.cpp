@@ -115,17 +115,6 @@ void writeElementCompass(const QStringList& arguments, ReportSurface& vp) {
     writeCompass(chosenElement(arguments.at(0)), vp);
 }
 
-/// A clock for the one report that counts from today.
-class ChosenDay final : public Clock {
-public:
-    explicit ChosenDay(QDate day)
-        : day_(day) {}
-    [[nodiscard]] QDate today() const override { return day_; }
-
-private:
-    QDate day_;
-};
-
 /// Runs a report that writes on two surfaces; the transcript is that of the text or, when the option is among
 /// the arguments, that of the large pane. `build` gets the other arguments and both surfaces, pane first.
 template<class Build>
@@ -167,7 +156,7 @@ void writeYears(const QStringList& arguments, ReportSurface& vp) {
             throw Refusal{Refusal::BadArguments,
                           QStringLiteral("\"%1\" is neither move nor renovation.").arg(given.at(2))};
         }
-        ChosenDay day(QDate::fromString(given.at(3), Qt::ISODate));
+        FixedClock day(QDate::fromString(given.at(3), Qt::ISODate));
         if (!day.today().isValid()) {
             throw Refusal{Refusal::BadArguments, QStringLiteral("\"%1\" is no day.").arg(given.at(3))};
         }

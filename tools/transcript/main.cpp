@@ -15,11 +15,6 @@
 
 namespace {
 
-class SystemClock final : public Clock {
-public:
-    [[nodiscard]] QDate today() const override { return QDate::currentDate(); }
-};
-
 void printLine(std::FILE* stream, const QByteArray& line) {
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stream);
     std::fputc('\n', stream);

@@ -1,5 +1,0 @@
-#include "ui/platform/SystemClock.h"
-
-QDate SystemClock::today() const {
-    return QDate::currentDate();
-}
