@@ -1,14 +1,19 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
-/// A Latin text as PDF files hold it in their description: two bytes a letter, after the mark of their order.
-/// Brackets and backslashes are not meant for it.
-inline QByteArray pdfText(const QByteArray& latin) {
+/// A text as PDF files hold it in their description: two bytes a letter, after the mark of their order, with
+/// a backslash before the bytes that have a meaning of their own.
+inline QByteArray pdfText(const QString& text) {
     QByteArray written("(\xFE\xFF");
-    for (const char letter : latin) {
-        written += '\0';
-        written += letter;
+    for (const QChar letter : text) {
+        for (const uchar byte : {letter.row(), letter.cell()}) {
+            if (byte == '(' || byte == ')' || byte == '\\') {
+                written += '\\';
+            }
+            written += static_cast<char>(byte);
+        }
     }
     return written + ')';
 }

@@ -159,7 +159,7 @@ private:
         QFile file(file_);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const QByteArray pdf = file.readAll();
-        EXPECT_TRUE(pdf.contains("/Creator " + pdfText(VersionRecord::title.toString().toLatin1())));
+        EXPECT_TRUE(pdf.contains("/Creator " + pdfText(VersionRecord::title.toString())));
         EXPECT_TRUE(pdf.contains("/Title (\xFE\xFF"));
     }
     void expectPaper(const Paper& paper) const {

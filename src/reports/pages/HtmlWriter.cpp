@@ -50,7 +50,7 @@ public:
 private:
     void writeHead();
     void writePage(const Page& page);
-    void writeHeader(const QString& text, const TextStyle& style);
+    void writeHeader(const LaidText& header, bool begins);
     void writeItem(const TextLine& line);
     template<class Item>
     void writeItem(const Item& item) {
@@ -61,7 +61,6 @@ private:
 
     const PageDocument& document_;
     QString html_;
-    QString previousHeader_;
     /// What was drawn since the last paragraph.
     HtmlFigure figure_;
     /// Where the chart ends that paragraphs stand beside, from the page's top.
@@ -81,9 +80,8 @@ void HtmlWriter::writeHead() {
 void HtmlWriter::writePage(const Page& page) {
     html_ += QLatin1String("<section>\n");
     if (page.header.text != nullptr) {
-        writeHeader(page.header.text->text(), page.header.text->style());
+        writeHeader(*page.header.text, page.headerBegins);
     }
-    previousHeader_ = page.header.text != nullptr ? page.header.text->text() : QString();
     besideUntil_ = 0;
     for (const PageItem& item : page.items) {
         std::visit([this](const auto& shown) { writeItem(shown); }, item);
@@ -97,11 +95,11 @@ void HtmlWriter::writePage(const Page& page) {
     html_ += QLatin1String("</section>\n");
 }
 
-void HtmlWriter::writeHeader(const QString& text, const TextStyle& style) {
+void HtmlWriter::writeHeader(const LaidText& header, bool begins) {
     // A header that goes on from the page before is no new heading.
-    const QLatin1String tag(text == previousHeader_ ? "p" : "h1");
+    const QLatin1String tag(begins ? "h1" : "p");
     html_ += QLatin1String("<header>\n");
-    writeParagraph(tag, text, style);
+    writeParagraph(tag, header.text(), header.style());
     html_ += QLatin1String("</header>\n");
 }
 
@@ -165,6 +163,9 @@ void HtmlWriter::writeParagraph(QLatin1String tag, const QString& text, const Te
 } // namespace
 
 QString titleOf(const PageDocument& document) {
+    if (!document.title.isEmpty()) {
+        return document.title.simplified();
+    }
     for (const Page& page : document.pages) {
         if (page.header.text != nullptr) {
             return page.header.text->text().simplified();

@@ -74,6 +74,8 @@ struct Page {
     /// In the order in which they were written: a later one covers an earlier one.
     std::vector<PageItem> items;
     RunningText header;
+    /// The header was set for this page; otherwise it goes on from the page before.
+    bool headerBegins = false;
     RunningText footer;
     /// The thin rules above and below the text area.
     std::vector<QLineF> rules;
@@ -85,6 +87,8 @@ struct Page {
 /// independent of any device.
 struct PageDocument {
     QSizeF pageSize;
+    /// What the whole is called; empty where its first header says that.
+    QString title;
     std::vector<Page> pages;
 };
 

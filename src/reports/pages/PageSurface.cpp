@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -92,6 +93,7 @@ void PageSurface::StartDoc() {
     document_.pages.clear();
     draft_.clear();
     open_ = true;
+    headerBegins_ = true;
     set(Property::PreviewPage, 1);
     startPage();
     notify();
@@ -211,6 +213,9 @@ void PageSurface::setProperty(SurfaceProperty property, const QVariant& value) {
     case Property::CurrentY:
         currentY_ = bounded(value.toDouble());
         break;
+    case Property::Header:
+        headerBegins_ = true;
+        break;
     case Property::Zoom:
         set(Property::ZoomMode, 0);
         notify();
@@ -324,6 +329,7 @@ void PageSurface::finishPage() {
     page.background = color(Property::BackColor);
     addRules(page);
     page.header = runningText(Property::Header);
+    page.headerBegins = std::exchange(headerBegins_, false);
     constexpr std::array headerFont{Property::HdrColor,         Property::HdrFontName,
                                     Property::HdrFontSize,      Property::HdrFontBold,
                                     Property::HdrFontItalic,    Property::HdrFontUnderline,

@@ -22,6 +22,9 @@ public:
     /// The finished document; it has no pages before the first `EndDoc` and between `StartDoc` and
     /// `EndDoc`.
     [[nodiscard]] const PageDocument& document() const { return document_; }
+    /// Names the documents from here on, for files and the print queue. Without a name, or with an empty one,
+    /// they are called by their first header.
+    void setTitle(const QString& title) { document_.title = title; }
     [[nodiscard]] QSizeF pageSize() const { return document_.pageSize; }
 
     /// Called when what a preview shows has changed: a document was begun or finished, or `PreviewPage`,
@@ -80,6 +83,8 @@ private:
     /// The pages of the open document.
     std::vector<Page> draft_;
     bool open_ = false;
+    /// The header was set since the last page ended.
+    bool headerBegins_ = false;
     Event raising_ = Event::None;
     double currentX_ = 0;
     double currentY_ = 0;

@@ -114,6 +114,8 @@ void frmPrintPreview::PrintRoomReport() {
     routine(u"frmPrintPreview.PrintRoomReport", [this] {
         Form_Load();
         vsTop->setCaption(captionText(currentLocation().DESCRIPTION) + QStringLiteral(" Room Report"));
+        // Not after its first room, as a report of one page is.
+        surface_.setTitle(currentLocation().DESCRIPTION + QStringLiteral(" Room Report"));
         vsTop->setAccent(ColorContrast::fromStored(Global::accentColor()));
         analyze();
         exec();

@@ -128,6 +128,25 @@ TEST_F(HtmlWriterTest, header_isAHeadingOnlyWhereItChanges) {
     EXPECT_EQ(textsOf("title"), QStringList{QStringLiteral("Bedroom")});
 }
 
+TEST_F(HtmlWriterTest, header_setAnewWithTheSameText_isAHeadingAgain) {
+    surface.StartDoc();
+    modRooms::SetReportHeader(surface, QStringLiteral("Bedroom"), 0);
+    surface.NewPage();
+    modRooms::SetReportHeader(surface, QStringLiteral("Bedroom"), 0);
+    surface.NewPage();
+    surface.EndDoc();
+    EXPECT_EQ(textsOf("h1"), (QStringList{QStringLiteral("Bedroom"), QStringLiteral("Bedroom")}));
+    EXPECT_EQ(textsOf("p"), QStringList{QStringLiteral("Bedroom")});
+}
+
+TEST_F(HtmlWriterTest, title_thatWasSet_standsForTheFirstHeader) {
+    surface.setTitle(QStringLiteral("Elm  Street"));
+    surface.StartDoc();
+    modRooms::SetReportHeader(surface, QStringLiteral("Bedroom"), 0);
+    surface.EndDoc();
+    EXPECT_EQ(textsOf("title"), QStringList{QStringLiteral("Elm Street")});
+}
+
 TEST_F(HtmlWriterTest, title_withoutAHeader_isThere) {
     write({});
     EXPECT_EQ(textsOf("title"), QStringList{QStringLiteral("Report")});

@@ -230,6 +230,7 @@ TEST_F(frmPrintPreviewTest, mnuFileSaveAs_writesTheReportAndLeavesThePreviewOnPa
     });
     const QByteArray html = world_.read(QStringLiteral("My report.html"));
     EXPECT_TRUE(html.startsWith("<!DOCTYPE html>"));
+    EXPECT_TRUE(html.contains("<title>Elm Street Room Report</title>"));
 }
 
 TEST_F(frmPrintPreviewTest, mnuFileSaveAs_textsOfTheRecordsAreEscaped) {

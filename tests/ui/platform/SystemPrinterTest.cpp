@@ -61,8 +61,8 @@ TEST_F(SystemPrinterTest, print_namesTheDocumentAndTheProgramInTheFile) {
     QFile file(file_);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray pdf = file.readAll();
-    EXPECT_TRUE(pdf.contains("/Title " + pdfText("Room Report")));
-    EXPECT_TRUE(pdf.contains("/Creator " + pdfText("Talivane")));
+    EXPECT_TRUE(pdf.contains("/Title " + pdfText(QStringLiteral("Room Report"))));
+    EXPECT_TRUE(pdf.contains("/Creator " + pdfText(QStringLiteral("Talivane"))));
 }
 
 TEST_F(SystemPrinterTest, print_toAFileWithoutAChoice_asksFirstAndKeepsWhatStandsThere) {
