@@ -82,7 +82,8 @@ int main(int argc, char** argv) {
     const QString text = changedText(argv[2]);
     store.SetAttribute(field, text);
     const std::string_view restriction = argc > 3 ? argv[3] : "";
-    if (restriction == "drop" && getuid() == 0 && setresuid(nobody, nobody, nobody) != 0) {
+    const bool drops = restriction == "drop" && getuid() == 0;
+    if (drops && seteuid(nobody) != 0) {
         return 2;
     }
     if (restriction == "unreserved" && !refuseReserving()) {
@@ -96,6 +97,9 @@ int main(int argc, char** argv) {
     const bool saved = store.SaveDocument();
     if (stops) {
         std::raise(SIGSTOP);
+    }
+    if (drops && seteuid(0) != 0) { // a build that counts lines writes its counts at the end
+        return 2;
     }
     std::printf("saved %d\n", saved ? 1 : 0);
     std::printf("kept %d\n", store.GetAttribute(field) == text ? 1 : 0);
