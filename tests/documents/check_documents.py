@@ -3,7 +3,8 @@
 Usage: check_documents.py links ROOT
        check_documents.py commands ROOT TRANSCRIPT
 
-A command in a fenced block is run here, or the table says where it runs; one that is in neither fails.
+A command in a fenced block is a line of .ci/run or is run here; one that is neither fails. The verbs that stand
+in running text are run by .ci/run or here as well.
 """
 
 import pathlib
@@ -12,21 +13,6 @@ import shutil
 import subprocess
 import sys
 import tempfile
-
-# What takes too long, needs a display or root, or is this very run: the file that runs it, and the words in it.
-RUN_ELSEWHERE = {
-    "./dev test": (".ci/run", "./dev test"),
-    "./dev lint": (".ci/run", "./dev lint"),
-    # The verb formats the sources where they stand; lint runs the same program over the same files.
-    "./dev format": ("dev", "sources | xargs clang-format -i"),
-    "./dev run": (".ci/run", "./dev run"),
-    # A part of it: all of it takes two minutes.
-    "./dev bench": (".ci/run", "./dev bench --benchmark_filter=Load"),
-}
-# What would take minutes here, with the part of it that shows that it would start.
-TRIED = {
-    "./dev coverage": ["cmake", "--list-presets=test"],
-}
 
 
 def documents(root):
@@ -86,31 +72,18 @@ def verbs_in_help(root):
     return set(re.findall(r"^\./dev (\w+)", text, re.MULTILINE))
 
 
-def check_test_run(command, root):
-    """A run of the tests like this one, in some other way: its preset, its test and its variables are there."""
-    variables, _, arguments = command.partition("./dev test")
-    for name, value in re.findall(r"(\w+)=(\w+)", variables):
-        if name == "TALIVANE_PRESET":
-            presets = subprocess.run(
-                ["cmake", "--list-presets=test"], cwd=root, check=True, capture_output=True, encoding="utf-8"
-            ).stdout
-            assert f'"{value}"' in presets, f"{command}: there is no preset {value}"
-        else:
-            assert mentioned(root, name), f"{command}: no test reads {name}"
-    wanted = re.search(r"-R (\w+)", arguments)
-    assert not wanted or mentioned(root, wanted[1]), f"{command}: there is no such test"
-
-
-def mentioned(root, word):
-    return any(word in file.read_text("utf-8") for file in root.glob("tests/**/*.[ch]*"))
+def commands_of_ci(root):
+    """The lines of .ci/run from the variables on, without what only has to do with the machine that runs them."""
+    for line in (root / ".ci/run").read_text("utf-8").splitlines():
+        command = re.sub(r"^env( -u \w+)* |\s*>.*$", "", line.strip())
+        if re.match(r"(\w+=\w+ )*\./dev\b", command):
+            yield command
 
 
 def run(command, root, transcript, folder):
     """Runs a command as the document means it; a verb that would build first goes to what it has built."""
     words = command.split()
-    if command in TRIED:
-        words = TRIED[command]
-    elif words[:2] == ["./dev", "transcript"]:
+    if words[:2] == ["./dev", "transcript"]:
         for source in (root / "data", root / "data/sample"):
             for file in source.glob("*.xml"):
                 shutil.copy(file, folder)
@@ -118,33 +91,29 @@ def run(command, root, transcript, folder):
         words[:3] = [transcript, folder]
     elif words[0] == "xmllint":
         words = [word.replace("path/to", "data") for word in words]
-    elif words[:2] != ["./dev", "help"]:
+    else:
         return False
     output = subprocess.run(words, cwd=root, check=True, capture_output=True, encoding="utf-8")
-    assert command != "./dev coverage" or '"coverage"' in output.stdout, "there is no preset coverage"
     return bool(output.stdout or output.stderr)
 
 
 def check_commands(root, transcript):
-    verbs = verbs_in_help(root)
+    run_in_ci = set(commands_of_ci(root))
     found = list(commands(root))
     assert len(found) >= 8, found
     for file, command in found:
-        elsewhere = RUN_ELSEWHERE.get(command)
-        if elsewhere is not None:
-            place, words = elsewhere
-            assert words in (root / place).read_text("utf-8"), f"{command}: {place} does not run it"
-        elif re.match(r"(\w+=\w+ )*\./dev test\b", command):
-            check_test_run(command, root)
-        else:
+        if command not in run_in_ci:
             with tempfile.TemporaryDirectory() as folder:
                 assert run(command, root, transcript, pathlib.Path(folder)), f"{file}: nothing runs {command}"
         print(command)
-    unused = (set(RUN_ELSEWHERE) | set(TRIED)) - {command for _, command in found}
-    assert not unused, f"no document holds {unused}"
+    verbs_in_ci = {re.search(r"\./dev (\w+)", command)[1] for command in run_in_ci}
+    verbs = verbs_in_help(root)
+    assert verbs - {"help"} == verbs_in_ci, f"not run by .ci/run: {verbs - verbs_in_ci}"
     for file in documents(root):
-        for verb in re.findall(r"`(?:\w+=\w+ )?\./dev (\w+)", file.read_text("utf-8")):
-            assert verb in verbs, f"{file}: there is no verb {verb}"
+        for command in re.findall(r"`((?:\w+=\w+ )*\./dev [^`]*)`", file.read_text("utf-8")):
+            verb = re.fullmatch(r"\./dev (\w+)(?: [A-Z]+)?", command)
+            known = verb[1] in verbs if verb else command in run_in_ci
+            assert known, f"{file}: nothing runs {command}"
 
 
 def main():
