@@ -102,6 +102,7 @@ int main(int argc, char** argv) {
     qputenv("QT_SCALE_FACTOR", mode->scale);
     const QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setCursorFlashTime(0); // or it depends on the moment whether a field's cursor is seen
     if (mode->dark) {
         QApplication::setPalette(darkPalette());
     }
