@@ -46,13 +46,12 @@ QPushButton* zoomButton(QWidget* parent, const QString& name, const QString& cap
 } // namespace
 
 FloorPlan::FloorPlan(ViewFrame& frame, const ComboList& floors, QWidget* parent)
-    : QSplitter(parent)
+    : PaneSplitter(parent)
     , frame_(frame)
     , floors_(floors)
     , readOut_(new ElidedLabel(parent)) {
     setObjectName(u"vsSplit"_s);
     setAccessibleName(tr("Rooms and floor plan"));
-    setChildrenCollapsible(false);
     buildZoom();
     buildList();
     vsRight = new FloorPlanDesk(this);
@@ -65,7 +64,7 @@ FloorPlan::FloorPlan(ViewFrame& frame, const ComboList& floors, QWidget* parent)
 }
 
 void FloorPlan::showEvent(QShowEvent* event) {
-    QSplitter::showEvent(event);
+    PaneSplitter::showEvent(event);
     // Shares given before the pane has its size are lost when it is laid out unseen.
     if (!shared_) {
         shared_ = true;
@@ -354,5 +353,5 @@ bool FloorPlan::eventFilter(QObject* watched, QEvent* event) {
             return true;
         }
     }
-    return QSplitter::eventFilter(watched, event);
+    return PaneSplitter::eventFilter(watched, event);
 }

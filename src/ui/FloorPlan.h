@@ -1,9 +1,9 @@
 #pragma once
 
 #include "ui/platform/ListBox.h"
+#include "ui/widgets/PaneSplitter.h"
 
 #include <QPointF>
-#include <QSplitter>
 
 #include <optional>
 #include <vector>
@@ -21,7 +21,7 @@ class ViewFrame;
 /// The floor plan of the location pane: the list of the rooms of the selected floor beside their rectangles
 /// on the plan, which the user drags into place. It works on `CurrentLocation`; each new place of a room is
 /// on disk when the room has been dropped.
-class FloorPlan final : public QSplitter {
+class FloorPlan final : public PaneSplitter {
     Q_OBJECT
 
 public:

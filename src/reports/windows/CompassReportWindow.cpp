@@ -6,11 +6,11 @@
 #include "reports/windows/ReportStrip.h"
 #include "ui/platform/WidgetPlacement.h"
 #include "ui/widgets/ColorContrast.h"
+#include "ui/widgets/PaneSplitter.h"
 #include "ui/widgets/TitleBand.h"
 
 #include <QAction>
 #include <QPushButton>
-#include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -88,10 +88,9 @@ int CompassReportWindow::compassWidth() const {
 }
 
 QWidget* CompassReportWindow::buildPanes() {
-    auto* panes = new QSplitter(Qt::Horizontal, this);
+    auto* panes = new PaneSplitter(this);
     panes->setObjectName(QStringLiteral("panes"));
     panes->setAccessibleName(tr("Compass and report"));
-    panes->setChildrenCollapsible(false);
     panes->setHandleWidth(between);
     vpCompass = buildPane(QStringLiteral("vpCompass"), tr("Compass"), compass_);
     vpReport = buildPane(QStringLiteral("vpReport"), tr("Report"), report_);
