@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdio>
 #include <map>
+#include <optional>
 #include <regex>
 #include <string>
 #include <utility>
@@ -14,6 +15,9 @@
 
 #ifdef __GLIBC__
 #include <malloc.h>
+#endif
+#ifdef __linux__
+#include <sched.h>
 #endif
 
 namespace {
@@ -34,6 +38,34 @@ std::string told(double value, double limit, const char* what) {
     std::snprintf(figures.data(), figures.size(), "ratio %.2f (at most %.2f)", value, limit);
     return std::string(figures.data()) + (value > limit ? "  EXCEEDED  " : "  ") + what;
 }
+
+/// Keeps this thread, and the programs that it starts, on one processor. Turn by turn, the two of a pair
+/// would settle on one each, and what is compared would be the processors: a shared machine's are not equally
+/// fast.
+class OneProcessor {
+public:
+#ifdef __linux__
+    OneProcessor() {
+        sched_getaffinity(0, sizeof all_, &all_);
+        int first = 0;
+        while (first < CPU_SETSIZE - 1 && !CPU_ISSET(first, &all_)) {
+            ++first;
+        }
+        cpu_set_t one;
+        CPU_ZERO(&one);
+        CPU_SET(first, &one);
+        sched_setaffinity(0, sizeof one, &one);
+    }
+    OneProcessor(const OneProcessor&) = delete;
+    OneProcessor& operator=(const OneProcessor&) = delete;
+    ~OneProcessor() {
+        sched_setaffinity(0, sizeof all_, &all_);
+    }
+
+private:
+    cpu_set_t all_ = {};
+#endif
+};
 
 /// Prints each benchmark's median as the console does, and keeps every repetition's time for the ratios.
 class CollectingReporter final : public benchmark::ConsoleReporter {
@@ -77,6 +109,10 @@ private:
 /// that both see the machine at the same speed.
 std::string measured(const Ratio& pair) {
     benchmark::SetBenchmarkFilter(std::string("^(") + pair.measured + '|' + pair.baseline + ")(/|$)");
+    std::optional<OneProcessor> pinned;
+    if (pair.onOneProcessor) {
+        pinned.emplace();
+    }
     CollectingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return told(reporter.ratio(pair), pair.limit, pair.what);

@@ -7,6 +7,8 @@ struct Ratio {
     const char* measured;
     const char* baseline;
     double limit;
+    /// Off where one of the two has work for several processors at once.
+    bool onOneProcessor = true;
 };
 
 /// Adds a ratio to those that are printed at the end of the run. The result is only there so that a
