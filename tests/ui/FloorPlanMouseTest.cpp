@@ -117,6 +117,15 @@ TEST_F(FloorPlanMouseTest, otherButtonWhileDragging_isIgnored) {
     expectPlace(u"1"_s, 160, 160);
 }
 
+TEST_F(FloorPlanMouseTest, arrowKeyWhileDragging_leavesTheRoomToTheMouse) {
+    press(at(100, 100));
+    moveTo(at(200, 200));
+    QTest::keyClick(&room(0), Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(stored(u"1"_s, u"LEFT"_s), u"60"_s);
+    release(at(200, 200));
+    expectPlace(u"1"_s, 160, 160);
+}
+
 TEST_F(FloorPlanMouseTest, dragWhoseEndIsLost_endsAtTheNextPress) {
     press(at(100, 100));
     moveTo(at(200, 200));

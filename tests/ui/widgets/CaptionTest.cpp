@@ -40,6 +40,21 @@ TEST(CaptionLabel, largerLetters_takeMoreRoom) {
     EXPECT_GT(label.heightForWidth(300), 2 * height);
 }
 
+TEST(CaptionLabel, manyWidths_takeTheSameRoomWheneverTheyAreAskedFor) {
+    const QString caption =
+        QStringLiteral("A sentence of some length, which is broken into lines. ").repeated(4);
+    CaptionLabel label(QStringLiteral("lblSummary"));
+    label.setCaption(caption);
+    for (const int round : {1, 2}) {
+        for (int width = 100; width <= 600; width += 10) {
+            CaptionLabel fresh(QStringLiteral("lblFresh"));
+            fresh.setCaption(caption);
+            EXPECT_EQ(label.heightForWidth(width), fresh.heightForWidth(width))
+                << width << ", round " << round;
+        }
+    }
+}
+
 TEST(CaptionLabel, paintedLines_takeTheRoomThatTheHintsTold) {
     CaptionLabel label(QStringLiteral("lblSummary"));
     label.setCaption(

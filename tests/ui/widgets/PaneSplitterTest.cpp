@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
@@ -64,6 +65,26 @@ TEST_F(PaneSplitterTest, F8EnterAndEscape_goBackToWhereTheKeyboardWas) {
         EXPECT_EQ(window.focusWidget(), right);
         EXPECT_TRUE(window.isVisible());
     }
+}
+
+TEST_F(PaneSplitterTest, whereTheKeyboardWasHasGone_theDividerLetsItGo) {
+    auto* below = new QLineEdit(&window);
+    window.layout()->addWidget(below);
+    below->show();
+    below->setFocus();
+    press(Qt::Key_F8);
+    delete below;
+    press(Qt::Key_Return);
+    EXPECT_FALSE(panes->handle(1)->hasFocus());
+}
+
+TEST_F(PaneSplitterTest, otherKeys_areNotTheDividers) {
+    press(Qt::Key_F8);
+    const QList<int> before = panes->sizes();
+    QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QApplication::sendEvent(panes->handle(1), &letter);
+    EXPECT_FALSE(letter.isAccepted());
+    EXPECT_EQ(panes->sizes(), before);
 }
 
 TEST_F(PaneSplitterTest, Tab_passesTheDivider) {
