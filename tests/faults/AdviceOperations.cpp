@@ -64,6 +64,15 @@ void editStruck(FaultStage& stage, const std::function<void(QWidget&)>& inside) 
     editKitchen(stage, inside);
 }
 
+/// Opens the compass over the kitchen, with the fault coming before.
+void lookAtRoomStruck(FaultStage& stage, const std::function<void(QWidget&)>& inside) {
+    startAtHomes(stage);
+    editKitchen(stage, [&](QWidget& editor) {
+        stage.strike();
+        whileModal([&] { click(editor, "cmdCompass"); }, inside);
+    });
+}
+
 /// A printer that was chosen and then vanished.
 class VanishedPrinter final : public Printer {
 public:
@@ -129,12 +138,7 @@ const Operation lookAtHome{"look at the compass over the home", [](FaultStage& s
                            }};
 
 const Operation lookAtRoom{"look at the compass over a room", [](FaultStage& stage) {
-                               startAtHomes(stage);
-                               editKitchen(stage, [&](QWidget& editor) {
-                                   stage.strike();
-                                   whileModal([&] { click(editor, "cmdCompass"); },
-                                              [](QWidget& window) { click(window, "cmdClose"); });
-                               });
+                               lookAtRoomStruck(stage, [](QWidget& window) { click(window, "cmdClose"); });
                            }};
 
 const Operation saveRooms{"save the report on the rooms",
@@ -190,6 +194,9 @@ const Operation printElement{"print the report on an element",
 
 const Operation printHome{"print the compass over the home",
                           [](FaultStage& stage) { lookStruck(stage, &print); }};
+
+const Operation printPlace{"print the compass over a room",
+                           [](FaultStage& stage) { lookAtRoomStruck(stage, &print); }};
 
 const Operation printRoomsNowhere{"print the report on the rooms where no printer is", [](FaultStage& stage) {
                                       stage.start();

@@ -60,6 +60,7 @@ extern const Operation printChart;   ///< print the Nine Ki chart into a PDF fil
 extern const Operation printProfile; ///< print the report on a person into a PDF file
 extern const Operation printElement; ///< print the report on an element into a PDF file
 extern const Operation printHome;    ///< print the compass over the home into a PDF file
+extern const Operation printPlace;   ///< print the compass over the kitchen into a PDF file
 
 // A device has gone.
 extern const Operation printRoomsNowhere; ///< print the report on the rooms where the printer has gone

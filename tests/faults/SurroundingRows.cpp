@@ -85,6 +85,7 @@ FaultTable surroundingRows() {
     addPdf(rows, Operations::printProfile, QStringLiteral("frmProfiles.mnuFilePrint_Click"));
     addPdf(rows, Operations::printElement, QStringLiteral("frmElements.mnuFilePrint_Click"));
     addPdf(rows, Operations::printHome, plan);
+    addPdf(rows, Operations::printPlace, QStringLiteral("frmRoomDirection.cmdPrint_Click"));
     addNowhere(rows, Operations::printRoomsNowhere, preview);
     addNowhere(rows, Operations::printHomeNowhere, plan);
     // Settings fail in silence: what cannot be read is as at the first start, what cannot be written is lost.
