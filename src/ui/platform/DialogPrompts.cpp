@@ -7,33 +7,24 @@
 
 namespace {
 
-QMessageBox::Icon iconOf(MessageIcon icon) {
-    switch (icon) {
-    case MessageIcon::Critical:
-        return QMessageBox::Critical;
-    case MessageIcon::Question:
-        return QMessageBox::Question;
-    case MessageIcon::Exclamation:
-        return QMessageBox::Warning;
-    case MessageIcon::Information:
-        break;
-    }
-    return QMessageBox::Information;
-}
+/// A box's picture, and what a screen reader says where the eye sees it.
+struct BoxPicture {
+    QMessageBox::Icon icon;
+    QString name;
+};
 
-/// What a screen reader says where the eye sees the box's picture.
-QString nameOf(MessageIcon icon) {
+BoxPicture pictureOf(MessageIcon icon) {
     switch (icon) {
     case MessageIcon::Critical:
-        return QStringLiteral("Error");
+        return {QMessageBox::Critical, QStringLiteral("Error")};
     case MessageIcon::Question:
-        return QStringLiteral("Question");
+        return {QMessageBox::Question, QStringLiteral("Question")};
     case MessageIcon::Exclamation:
-        return QStringLiteral("Warning");
+        return {QMessageBox::Warning, QStringLiteral("Warning")};
     case MessageIcon::Information:
         break;
     }
-    return QStringLiteral("Information");
+    return {QMessageBox::Information, QStringLiteral("Information")};
 }
 
 /// The boxes' texts separate lines by CR LF, widgets by LF alone.
@@ -50,10 +41,10 @@ MessageAnswer DialogPrompts::messageBox(const QString& title, const QString& tex
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
     box.setText(withPlainLineBreaks(text));
-    box.setIcon(iconOf(icon));
-    if (auto* picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
-        picture != nullptr) {
-        picture->setAccessibleName(nameOf(icon));
+    const BoxPicture picture = pictureOf(icon);
+    box.setIcon(picture.icon);
+    if (auto* shown = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")); shown != nullptr) {
+        shown->setAccessibleName(picture.name);
     }
     if (buttons == MessageButtons::YesNo) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
