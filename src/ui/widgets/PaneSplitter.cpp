@@ -86,8 +86,11 @@ private:
 PaneSplitter::PaneSplitter(QWidget* parent)
     : QSplitter(Qt::Horizontal, parent) {
     setChildrenCollapsible(false);
-    connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, this,
-            [this] { static_cast<Divider*>(handle(1))->toggle(); });
+    connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, this, [this] {
+        if (auto* divider = static_cast<Divider*>(handle(1)); divider != nullptr) {
+            divider->toggle();
+        }
+    });
 }
 
 QSplitterHandle* PaneSplitter::createHandle() {

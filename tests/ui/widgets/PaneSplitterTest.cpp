@@ -87,6 +87,13 @@ TEST_F(PaneSplitterTest, otherKeys_areNotTheDividers) {
     EXPECT_EQ(panes->sizes(), before);
 }
 
+TEST_F(PaneSplitterTest, onePane_hasNoDividerToGoTo) {
+    left->setFocus();
+    delete right;
+    press(Qt::Key_F8);
+    EXPECT_EQ(window.focusWidget(), left);
+}
+
 TEST_F(PaneSplitterTest, Tab_passesTheDivider) {
     left->setFocus();
     press(Qt::Key_Tab);
