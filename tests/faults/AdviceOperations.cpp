@@ -50,6 +50,14 @@ void print(QWidget& window) {
     click(window, "cmdPrint");
 }
 
+/// Asks for advice with the fault coming before, and has it go somewhere.
+void adviseAnd(FaultStage& stage, const char* entry, void (*ask)(QWidget&), void (*then)(QWidget&)) {
+    adviseStruck(stage, entry, [&](QWidget& window) {
+        ask(window);
+        then(window);
+    });
+}
+
 /// Opens the compass over the home, with the fault coming before.
 void lookStruck(FaultStage& stage, const std::function<void(QWidget&)>& inside) {
     startAtHomes(stage);
@@ -148,24 +156,15 @@ const Operation saveRoom{"save the report on a room",
                          [](FaultStage& stage) { editStruck(stage, &saveAsHtml); }};
 
 const Operation saveChart{"save the chart of a year", [](FaultStage& stage) {
-                              adviseStruck(stage, "mnuAdviceNineKi", [](QWidget& window) {
-                                  adviseOnDate(window);
-                                  saveAsHtml(window);
-                              });
+                              adviseAnd(stage, "mnuAdviceNineKi", &adviseOnDate, &saveAsHtml);
                           }};
 
 const Operation saveMove{"save the advice on a move", [](FaultStage& stage) {
-                             adviseStruck(stage, "mnuAdviceMoving", [](QWidget& window) {
-                                 adviseOnDate(window);
-                                 saveAsHtml(window);
-                             });
+                             adviseAnd(stage, "mnuAdviceMoving", &adviseOnDate, &saveAsHtml);
                          }};
 
 const Operation saveYears{"save the advice on years", [](FaultStage& stage) {
-                              adviseStruck(stage, "mnuAdviceMoving", [](QWidget& window) {
-                                  adviseOnDirection(window);
-                                  saveAsHtml(window);
-                              });
+                              adviseAnd(stage, "mnuAdviceMoving", &adviseOnDirection, &saveAsHtml);
                           }};
 
 const Operation saveProfile{"save the report on a person",
@@ -180,10 +179,7 @@ const Operation printRooms{"print the report on the rooms",
 const Operation printRoom{"print the report on a room", [](FaultStage& stage) { editStruck(stage, &print); }};
 
 const Operation printChart{"print the chart of a year", [](FaultStage& stage) {
-                               adviseStruck(stage, "mnuAdviceNineKi", [](QWidget& window) {
-                                   adviseOnDate(window);
-                                   print(window);
-                               });
+                               adviseAnd(stage, "mnuAdviceNineKi", &adviseOnDate, &print);
                            }};
 
 const Operation printProfile{"print the report on a person",
