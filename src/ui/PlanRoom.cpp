@@ -125,9 +125,10 @@ void PlanRoom::paintEvent(QPaintEvent* /*event*/) {
         painter.drawRect(rect().adjusted(inset, inset, -1 - inset, -1 - inset));
     }
     if (hasFocus()) { // so that the keyboard's user sees that the arrow keys move the room now
-        constexpr int within = 3;
-        painter.setPen(QPen(ink, 1, Qt::DashLine));
-        painter.drawRect(rect().adjusted(within, within, -1 - within, -1 - within));
+        // Within the outline, made wider by one: further in stands the name.
+        painter.drawRect(rect().adjusted(outline, outline, -1 - outline, -1 - outline));
+        painter.setPen(QPen(Qt::white, 1, Qt::DashLine));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
     }
 }
 
