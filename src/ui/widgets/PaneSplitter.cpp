@@ -4,10 +4,9 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QShortcut>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
 
 namespace {
 
@@ -60,12 +59,11 @@ protected:
     void focusInEvent(QFocusEvent* /*event*/) override { update(); }
     void focusOutEvent(QFocusEvent* /*event*/) override { update(); }
     void paintEvent(QPaintEvent* event) override {
-        QSplitterHandle::paintEvent(event);
-        if (hasFocus()) {
-            QStyleOptionFocusRect frame;
-            frame.initFrom(this);
-            QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, frame);
+        if (hasFocus()) { // as a whole: it is too narrow for a frame
+            QPainter(this).fillRect(rect(), palette().highlight());
+            return;
         }
+        QSplitterHandle::paintEvent(event);
     }
 
 private:
