@@ -10,7 +10,10 @@ const std::vector<Fault> unread = {Fault::Missing, Fault::Empty, Fault::Truncate
                                    Fault::NotReadable};
 /// The rows of what does not concern somebody who reads. Settings change where the disk has room for it.
 void addHarmless(FaultTable& rows, const Operation& operation, const QStringList& changed = {}) {
-    for (const char* file : {"Profiles.xml", "Rooms.xml", "KUAYears.xml"}) {
+    for (const char* file :
+         {"Profiles.xml", "Locations.xml", "Floors.xml", "Rooms.xml", "KUAYears.xml", "Directions.xml",
+          "PersonalDirections.xml", "Elements.xml", "Colors.xml", "Symbols.xml", "TimeOfDay.xml",
+          "Trigrams.xml", "Animals.xml", "RoomTypes.xml", "FloorTypes.xml"}) {
         rows.push_back({file, {Fault::NotWritable, Fault::LockedUp}, operation, {}, changed});
         rows.push_back({file, {Fault::FullDisk}, operation, {}, {}});
     }
